@@ -1,0 +1,54 @@
+// A plain text that is looked for in the bytes of a table without regard to case. Prepared once, it walks a table in
+// one pass and copies nothing, so that a search over a long table costs little more than reading it.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace kontorwerk {
+
+class CaseBlindPattern {
+ public:
+  static constexpr std::size_t kNotFound = std::string_view::npos;
+
+  explicit CaseBlindPattern(std::string_view pattern);
+
+  // Place of the first occurrence in `text` from the byte `from` on. The empty pattern is found everywhere.
+  [[nodiscard]] std::size_t FindIn(std::string_view text, std::size_t from = 0) const;
+  [[nodiscard]] bool OccursIn(std::string_view text) const { return FindIn(text) != kNotFound; }
+  [[nodiscard]] bool IsEmpty() const { return pattern_.empty(); }
+  [[nodiscard]] std::size_t Length() const { return pattern_.size(); }
+
+ private:
+  [[nodiscard]] bool MatchesAt(const unsigned char* place) const;
+
+  std::string pattern_;                // upper case
+  std::array<unsigned char, 256> upper_;
+  std::array<std::size_t, 256> skip_;  // how far the window may move when its last byte is this one
+};
+
+// Calls `visit(row)` for each row of the table's text that holds the pattern, in order, blank rows left out.
+template <typename Visit>
+void ForEachRowWith(std::string_view text, const CaseBlindPattern& pattern, Visit&& visit) {
+  constexpr std::string_view kRowEnd = "\r\n";
+  std::size_t place = 0;
+  while (place < text.size()) {
+    const std::size_t hit = pattern.FindIn(text, place);
+    if (hit == CaseBlindPattern::kNotFound) return;
+    const std::size_t before = hit == 0 ? std::string_view::npos : text.rfind(kRowEnd, hit - 1);
+    const std::size_t begin = before == std::string_view::npos ? 0 : before + kRowEnd.size();
+    const std::size_t end = std::min(text.find(kRowEnd, begin), text.size());
+    // A pattern with a line end in it may lie across two rows; neither of them holds it.
+    if (hit < begin || hit + pattern.Length() > end) {
+      place = hit + 1;
+      continue;
+    }
+    if (end > begin) visit(text.substr(begin, end - begin));
+    place = end + kRowEnd.size();
+  }
+}
+
+}  // namespace kontorwerk
