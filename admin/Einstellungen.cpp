@@ -13,11 +13,11 @@ namespace {
 constexpr std::string_view kConfigFile = "config.txt";
 constexpr std::string_view kHelpTitle = "Fußzeile der Vorlagen"_t;
 constexpr std::string_view kHelpText =
-    "Diese Angaben stehen in der Fußzeile der mitgelieferten Vorlagen für Angebote, Lieferscheine, Rechnungen, "
-    "Gutschriften und Mahnungen.\r\n\r\n"
-    "In einer Vorlage bezeichnen Sie die Stellen mit [FA1] bis [FA6] für Firmenname, Anschrift und Kontaktdaten und mit "
-    "[FB1] bis [FB3] für die Bankverbindung. [Steuernummer] und [USTIDNR] stehen für die beiden Steuernummern, "
-    "[Absenderadresse] für die Absenderzeile im Briefkopf.\r\n\r\n"
+    "Diese Angaben stehen in der Fußzeile der mitgelieferten Vorlagen für Angebote, Lieferscheine, Rechnungen, "_t
+    "Gutschriften und Mahnungen.\r\n\r\n"_t
+    "In einer Vorlage bezeichnen Sie die Stellen mit [FA1] bis [FA6] für Firmenname, Anschrift und Kontaktdaten und mit "_t
+    "[FB1] bis [FB3] für die Bankverbindung. [Steuernummer] und [USTIDNR] stehen für die beiden Steuernummern, "_t
+    "[Absenderadresse] für die Absenderzeile im Briefkopf.\r\n\r\n"_t
     "Ein leeres Feld bleibt im Beleg leer. Wie die Fußzeile aussieht, bestimmt allein die Vorlage."_t;
 
 FileDialog FolderDialog(std::string_view title, std::string_view folder) {

@@ -83,7 +83,7 @@ void Terminkalender::EditForOrder(const Appointment& appointment, const OrderCon
   neuerTermin_.CancelButton.SetCaption("Zurück"_t);
 }
 
-bool Terminkalender::NewAppointmentAt(const Date& date) {
+bool Terminkalender::OpenNewAt(const Date& date) {
   if (!AllowsNewAppointment(date)) return false;
   Load();
   SetOrderContext({});

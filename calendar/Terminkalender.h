@@ -31,7 +31,7 @@ class Terminkalender final : public Screen, public DayGridView {
   void EditForOrder(const Appointment& appointment, const OrderContext& order);
   // The control centre's way to a new appointment: this calendar takes the day, without an order and without being
   // shown, and the dialog opens. False, with a message, if the day lies in the past.
-  bool NewAppointmentAt(const Date& date);
+  bool OpenNewAt(const Date& date);
   // Asks whether the appointment is really to go; then deletes it and refreshes whatever shows it.
   void AskAndDelete(const Appointment& appointment);
 

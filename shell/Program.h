@@ -1,6 +1,8 @@
 // The whole program: its settings, its tables, and all screens, wired together. What the surroundings are is the caller's choice.
 #pragma once
 
+#include <memory>
+
 #include "platform/Context.h"
 
 namespace kontorwerk {

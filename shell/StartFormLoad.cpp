@@ -59,7 +59,8 @@ StartForm::StartStep StartForm::RunStart() {
   Daybold.SetRunning(false);
   ReadConfig();
   if (!WaitForFolders()) return StartStep::Ended;
-  context_.files.RemoveLeftovers(settings.DBPath);
+  for (const std::string& folder : {context_.platform.ProgramFolder(), settings.DBPath})
+    context_.files.RemoveLeftovers(folder);
   const SeedNumbers numbers = ReadSeedNumbers(context_.store);
   if (numbers.NoneFilled()) return AskForTables();
   AddCreditNoteTable(context_.store, numbers, context_.platform.TodayText());

@@ -4,6 +4,10 @@
 
 namespace kontorwerk {
 
+std::vector<ListColumn> ArticleListColumns() {
+  return {{"KAT | ArtikelNr"}, {"Bezeichnung"}, {"Hersteller"}, {"VK (Netto)"}};
+}
+
 ArticleMask::ArticleMask(Screen& owner, Context& context)
     : Kat(owner, "Kat"),
       ArtikelNr(owner, "ArtikelNr"),

@@ -7,11 +7,15 @@
 
 #include "platform/ChoiceControls.h"
 #include "platform/Context.h"
+#include "platform/ListView.h"
 #include "platform/TextControls.h"
 #include "stock/ArticleRecords.h"
 #include "stock/PositionReceiver.h"
 
 namespace kontorwerk {
+
+// The columns of a list of articles. They stand here and not in the forms, since a header of a form cannot hold a bar.
+[[nodiscard]] std::vector<ListColumn> ArticleListColumns();
 
 class ArticleMask {
  public:

@@ -221,7 +221,8 @@ void Artikelanlegen::ChooseSupplierFor(bool& target) {
   }
   SupplierTarget1 = SupplierTarget2 = SupplierTarget3 = false;
   target = true;
-  if (chooseSupplier_) chooseSupplier_([this](std::string_view name) { TakeSupplier(name); });
+  if (chooseSupplier_)
+    chooseSupplier_({[this](std::string_view name) { TakeSupplier(name); }, [this] { return WaitsForSupplier(); }});
 }
 
 bool Artikelanlegen::TakeSupplier(std::string_view name) {

@@ -30,8 +30,13 @@ class GoodsReceiptSearch {
 
 class Artikelanlegen final : public Screen, public ArticleMask {
  public:
-  // Opens the supplier search and calls back with the name of the chosen supplier, later or never.
-  using SupplierTaker = std::function<void(std::string_view name)>;
+  // The supplier field that waits, as the supplier search sees it.
+  struct SupplierTaker {
+    std::function<void(std::string_view name)> take;
+    // False once the field no longer waits, because the screen was closed meanwhile.
+    std::function<bool()> waits;
+  };
+  // Opens the supplier search for the field; a chosen name comes later or never.
   using SupplierChooser = std::function<void(SupplierTaker)>;
 
   Artikelanlegen(Context& context, ControlCentre& controlCentre, SupplierChooser chooseSupplier);

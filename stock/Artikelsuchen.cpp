@@ -37,7 +37,7 @@ Artikelsuchen::Artikelsuchen(Context& context, Artikelanlegen& articleScreen)
 }
 
 void Artikelsuchen::WireCommands() {
-  Command4.OnClick = [this] { ProposeNumber(); };
+  Command4.OnClick = [this] { Propose(); };
   Command5.OnClick = [this] {
     if (Command5.Caption() == kNewSearchCaption) {
       NewSearch();
@@ -55,13 +55,11 @@ void Artikelsuchen::WireCommands() {
   löschen.OnClick = [this] { Delete(); };
   Suchergebnis.OnSelect = [this] { ShowRow(); };
   Suchergebnis.OnColumnClick = [this](int column) { Suchergebnis.ToggleSort(column); };
-  Suchergebnis.OnDoubleClick = [this] {
-    if (!RowChosen) return;
-    if (DocumentCall) {
-      TakeOver();
-    } else {
-      Edit();
-    }
+  Suchergebnis.OnDoubleClick = [this] { UseChosen(); };
+  Suchergebnis.OnKey = [this](Key& key) {
+    if (!key.Is(KeyCode::Enter)) return;
+    key.handled = true;
+    UseChosen();
   };
 }
 
@@ -78,6 +76,7 @@ void Artikelsuchen::WireSearchFields() {
 
 void Artikelsuchen::OnLoad() {
   RowChosen = false;
+  Suchergebnis.SetColumns(ArticleListColumns());
   Bezeichnung.SetFocus();
 }
 
@@ -90,11 +89,11 @@ void Artikelsuchen::OnUnload() {
 
 void Artikelsuchen::Search() {
   SetStatus("suchen...");
-  const ArticleQuery query{Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text()};
-  ForgetRecord();
+  ForgetRecord(TypedTerms());
   const std::string table = context_.store.ReadTableText(table::kArticles);
   std::vector<ListRow> rows;
-  for (const std::string_view row : FindArticles(table, query)) rows.push_back(ResultRow(row));
+  for (const std::string_view row : FindArticles(table, {Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text()}))
+    rows.push_back(ResultRow(row));
   const int hits = static_cast<int>(rows.size());
   Suchergebnis.SetRows(std::move(rows));
   SetStatus(SearchDoneText(hits));
@@ -102,35 +101,40 @@ void Artikelsuchen::Search() {
 }
 
 void Artikelsuchen::NewSearch() {
-  ForgetRecord();
-  filling_ = true;
-  for (TextBox* field : SearchFields()) field->Clear();
-  filling_ = false;
+  ForgetRecord({});
   Suchergebnis.Clear();
   SetStatus({});
-  ShowAsking();
+  Command5.SetCaption(kSearchCaption);
   Bezeichnung.SetFocus();
 }
 
 // While a record is shown its number and name stand in the search fields. The first letter of a new term empties the
 // others, so that what stands in the fields is always what is looked for.
-void Artikelsuchen::TermTyped(TextBox& field) {
+void Artikelsuchen::TermTyped(const TextBox& field) {
   if (filling_) return;
   if (RowChosen) {
-    ForgetRecord();
-    filling_ = true;
-    for (TextBox* other : SearchFields())
-      if (other != &field) other->Clear();
-    filling_ = false;
+    Terms terms;
+    for (std::size_t i = 0; i < terms.size(); ++i)
+      if (SearchFields()[i] == &field) terms[i] = field.Text();
+    ForgetRecord(terms);
   }
-  ShowAsking();
+  Command5.SetCaption(kSearchCaption);
+}
+
+// The proposal stands in the mask as a term of its own: no record has that number yet.
+void Artikelsuchen::Propose() {
+  filling_ = true;
+  ProposeNumber();
+  filling_ = false;
+  if (RowChosen) ForgetRecord({Kat.Text(), ArtikelNr.Text(), ""});
+  Command5.SetCaption(kSearchCaption);
 }
 
 void Artikelsuchen::ShowRow() {
   const std::string table = context_.store.ReadTableText(table::kArticles);
   const std::string_view row = FindArticleRow(table, NthWord(Suchergebnis.SelectedCell(1), 1));
   if (row.empty()) {
-    ForgetRecord();
+    ForgetRecord({});
     return;
   }
   chosen_ = ReadArticle(row);
@@ -149,15 +153,8 @@ void Artikelsuchen::ShowRecord(const Article& article) {
   SetPurchasePricesVisible(false);
 }
 
-void Artikelsuchen::ShowAsking() {
-  BezeichnungLabel.SetCaption(kTermCaption);
-  Command5.SetCaption(kSearchCaption);
-}
-
-// Empties the mask except for what is looked for.
-void Artikelsuchen::ForgetRecord() {
+void Artikelsuchen::ForgetRecord(const Terms& terms) {
   RowChosen = false;
-  const std::array terms = {Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text()};
   ShowRecord({});
   filling_ = true;
   for (std::size_t i = 0; i < terms.size(); ++i) SearchFields()[i]->SetText(terms[i]);
@@ -171,6 +168,16 @@ void Artikelsuchen::SetPurchasePricesVisible(bool visible) {
 }
 
 // Working on the chosen article --------------------------------------------------------------------------------------
+
+// What the search was opened for.
+void Artikelsuchen::UseChosen() {
+  if (!RowChosen) return;
+  if (DocumentCall) {
+    TakeOver();
+  } else {
+    Edit();
+  }
+}
 
 void Artikelsuchen::Edit() {
   if (!RowChosen) return;
@@ -210,10 +217,7 @@ void Artikelsuchen::Delete() {
   });
   if (!written) return;
   Suchergebnis.RemoveRow(Suchergebnis.Selected());
-  ForgetRecord();
-  filling_ = true;
-  for (TextBox* field : SearchFields()) field->Clear();
-  filling_ = false;
+  ForgetRecord({});
   SetStatus(Concat("Artikel ", number, " ordnungsgemäß gelöscht!"_t));
 }
 

@@ -7,6 +7,9 @@
 //   chosen    a click on a row, or reaching it by key     "Neue Suche"   true
 #pragma once
 
+#include <array>
+#include <string>
+
 #include "platform/ListView.h"
 #include "platform/Screen.h"
 #include "platform/TextControls.h"
@@ -50,12 +53,17 @@ class Artikelsuchen final : public Screen, public ArticleMask {
 
   void WireCommands();
   void WireSearchFields();
+  // What stands in category, number and name: the terms of a search while no record is shown.
+  using Terms = std::array<std::string, 3>;
   [[nodiscard]] std::array<TextBox*, 3> SearchFields() { return {&Kat, &ArtikelNr, &Bezeichnung}; }
+  [[nodiscard]] Terms TypedTerms() const { return {Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text()}; }
 
   void Search();
   void NewSearch();
-  void TermTyped(TextBox& field);
+  void TermTyped(const TextBox& field);
+  void Propose();
   void ShowRow();
+  void UseChosen();
   void Edit();
   void TakeOver();
   void Delete();
@@ -63,8 +71,8 @@ class Artikelsuchen final : public Screen, public ArticleMask {
   void OpenCopy();
 
   void ShowRecord(const Article& article);
-  void ShowAsking();
-  void ForgetRecord();
+  // Empties the mask except for the terms.
+  void ForgetRecord(const Terms& terms);
   void SetPurchasePricesVisible(bool visible);
 
   Context& context_;

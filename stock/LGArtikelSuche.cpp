@@ -15,6 +15,14 @@ ListRow ArticleListRow(std::string_view row) {
   return ListRowOf(row, {kArticleNumber, kArticleName, kArticleManufacturer, kArticleNetPrice});
 }
 
+std::string_view FindArticleRowByEan(std::string_view tableText, std::string_view ean) {
+  std::string_view found;
+  ForEachRow(tableText, [&](std::string_view row) {
+    if (found.empty() && RecordField(row, kArticleEan) == ean) found = row;
+  });
+  return found;
+}
+
 ListRow StockListRow(std::string_view row) {
   return ListRowOf(row, {kStockLagerNr, kStockArtNr, kStockBezeichnung, kStockHersteller, kStockSerNr, kStockIMEINr,
                          kStockVK, kStockLagerbestand});
@@ -31,8 +39,8 @@ PositionContent ContentOf(const StockRecord& record) {
 }  // namespace
 
 LGArtikelSuche::LGArtikelSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt,
-                               LGArtikelbearbeiten& editor)
-    : StockSearchScreen(context, centre, receipt, editor, "LGArtikelSuche"),
+                               LGArtikelbearbeiten& editor, Artikelanlegen& articleScreen)
+    : StockSearchScreen(context, centre, receipt, editor, articleScreen, "LGArtikelSuche"),
       Suchergebnis(*this, "Suchergebnis"),
       Suchergebnis2(*this, "Suchergebnis2"),
       kplLagerbestand(*this, "kplLagerbestand") {
@@ -42,6 +50,8 @@ LGArtikelSuche::LGArtikelSuche(Context& context, ControlCentre& centre, GoodsRec
 
 void LGArtikelSuche::OnLoad() {
   StockSearchScreen::OnLoad();
+  // The form cannot hold a header with a bar in it.
+  Suchergebnis.SetColumns({{"KAT | ArtikelNr"}, {"Bezeichnung"}, {"Hersteller"}, {"VK (Netto)"}});
   MasterRowSelected = false;
   StockRowSelected = false;
 }
@@ -58,6 +68,7 @@ void LGArtikelSuche::OpenIn(std::string_view caption) {
 }
 
 void LGArtikelSuche::OpenForGoodsReceipt() {
+  GoodsReceiptCall = false;
   GoodsReceiptMode = true;
   StockEditMode = false;
   DocumentCall = false;
@@ -85,8 +96,7 @@ void LGArtikelSuche::ShowSearchAgain() {
     OpenForEditing();
 }
 
-void LGArtikelSuche::ReceiveArticle(std::string_view category, std::string_view digits) {
-  GoodsReceiptCall = false;
+void LGArtikelSuche::StartGoodsReceipt(std::string_view category, std::string_view digits) {
   OpenForGoodsReceipt();
   EmptyMask();
   Kat.SetText(category);
@@ -103,7 +113,11 @@ void LGArtikelSuche::Cancel() {
   Unload();
 }
 
-NewArticleCall LGArtikelSuche::ArticleCall() const { return {{}, GoodsReceiptMode && !DocumentCall, DocumentCall}; }
+void LGArtikelSuche::MarkArticleCall(Artikelanlegen& articleScreen) {
+  GoodsReceiptCall = GoodsReceiptMode && !DocumentCall;
+  articleScreen.GoodsReceiptCall = GoodsReceiptCall;
+  articleScreen.DocumentCall = DocumentCall;
+}
 
 void LGArtikelSuche::ForgetResults() {
   Suchergebnis.Clear();

@@ -10,9 +10,10 @@
 
 namespace kontorwerk {
 
-class LGArtikelSuche final : public StockSearchScreen {
+class LGArtikelSuche final : public StockSearchScreen, public GoodsReceiptSearch {
  public:
-  LGArtikelSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt, LGArtikelbearbeiten& editor);
+  LGArtikelSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt, LGArtikelbearbeiten& editor,
+                 Artikelanlegen& articleScreen);
 
   ListView Suchergebnis;   // stock-kept articles of the master
   ListView Suchergebnis2;  // stock items
@@ -27,10 +28,10 @@ class LGArtikelSuche final : public StockSearchScreen {
   void OpenForGoodsReceipt();
   void OpenForEditing();
   void OpenForDocument();
-  // The receipt of an article that has just been created: found, chosen and taken over without further clicks.
-  void ReceiveArticle(std::string_view category, std::string_view digits);
   void SetPositionReceiver(PositionReceiver* receiver) { positions_ = receiver; }
 
+  void ShowForGoodsReceipt() override { OpenForGoodsReceipt(); }
+  void StartGoodsReceipt(std::string_view category, std::string_view digits) override;
   void ShowSearchAgain() override;
 
  private:
@@ -38,10 +39,10 @@ class LGArtikelSuche final : public StockSearchScreen {
   void Search() override;
   void Cancel() override;
   void TakeOver() override;
-  void ForgetResults() override;
+  void ForgetResults();
   [[nodiscard]] std::string ChosenStockNumber() const override;
   void RemoveChosenRow() override;
-  [[nodiscard]] NewArticleCall ArticleCall() const override;
+  void MarkArticleCall(Artikelanlegen& articleScreen) override;
 
   void OpenIn(std::string_view caption);
   [[nodiscard]] std::string_view DesignCaption() const;

@@ -30,8 +30,8 @@ ListRow ShortfallListRow(const Shortfall& shortfall) {
 }  // namespace
 
 MindestbestandSuche::MindestbestandSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt,
-                                         LGArtikelbearbeiten& editor)
-    : StockSearchScreen(context, centre, receipt, editor, "MindestbestandSuche"),
+                                         LGArtikelbearbeiten& editor, Artikelanlegen& articleScreen)
+    : StockSearchScreen(context, centre, receipt, editor, articleScreen, "MindestbestandSuche"),
       Suchergebnis(*this, "Suchergebnis"),
       Command1(*this, "Command1"),
       Command2(*this, "Command2") {

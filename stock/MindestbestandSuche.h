@@ -11,7 +11,8 @@ namespace kontorwerk {
 
 class MindestbestandSuche final : public StockSearchScreen {
  public:
-  MindestbestandSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt, LGArtikelbearbeiten& editor);
+  MindestbestandSuche(Context& context, ControlCentre& centre, GoodsReceipt& receipt, LGArtikelbearbeiten& editor,
+                      Artikelanlegen& articleScreen);
 
   ListView Suchergebnis;
   CommandButton Command1, Command2;
@@ -23,7 +24,6 @@ class MindestbestandSuche final : public StockSearchScreen {
   void OnActivate() override { Suchergebnis.SetFocus(); }
   void Search() override;
   void TakeOver() override;
-  void ForgetResults() override { Suchergebnis.Clear(); }
   [[nodiscard]] std::string ChosenStockNumber() const override;
   void RemoveChosenRow() override { Suchergebnis.RemoveRow(Suchergebnis.Selected()); }
 

@@ -10,7 +10,8 @@
 namespace kontorwerk {
 
 StockSearchScreen::StockSearchScreen(Context& context, ControlCentre& centre, GoodsReceipt& receipt,
-                                     LGArtikelbearbeiten& editor, std::string_view name)
+                                     LGArtikelbearbeiten& editor, Artikelanlegen& articleScreen,
+                                     std::string_view name)
     : Screen(context.desktop, name),
       StockSearchMask(static_cast<Screen&>(*this)),
       Command5(*this, "Command5"),
@@ -27,18 +28,14 @@ StockSearchScreen::StockSearchScreen(Context& context, ControlCentre& centre, Go
       context_(context),
       centre_(centre),
       receipt_(receipt),
-      editor_(editor) {
+      editor_(editor),
+      articleScreen_(articleScreen) {
   Command5.OnClick = [this] { Search(); };
   Command7.OnClick = [this] { Cancel(); };
   Command8.OnClick = [this] { TakeOver(); };
   Command9.OnClick = [this] { ShowPurchasePrices(); };
-  NEWArtikelanlegen.OnClick = [this] { NewArticle(ArticleCall()); };
-  LeereMaske.OnClick = [this] {
-    EmptyMask();
-    ForgetResults();
-    SetStatus({});
-    Bezeichnung.SetFocus();
-  };
+  NEWArtikelanlegen.OnClick = [this] { NewArticle(); };
+  LeereMaske.OnClick = [this] { NewArticle(); };
   Datenübernahme.OnClick = [this] { TakeDataOver(); };
   LGArtikel_löschen.OnClick = [this] { DeleteItem(); };
   SearchOnEnter([this] { Search(); });
@@ -67,9 +64,9 @@ bool StockSearchScreen::Edit(std::string_view stockNumber) {
   return true;
 }
 
-void StockSearchScreen::NewArticle(const NewArticleCall& call) {
-  if (!OpenArticleScreen) return;
-  OpenArticleScreen(call);
+void StockSearchScreen::NewArticle() {
+  MarkArticleCall(articleScreen_);
+  articleScreen_.ShowNew();
   Unload();
 }
 
@@ -77,10 +74,11 @@ void StockSearchScreen::TakeDataOver() {
   if (!context_.platform.Ask("Wollten Sie nun das Lager-Center verlassen, um einen neuen Artikel anzulegen?",
                              "Lagercenter verlassen?"))
     return;
-  NewArticleCall call = ArticleCall();
-  call.content = ArticleFromStock(MaskRecord());
-  call.content.number.clear();
-  NewArticle(call);
+  Article article = ArticleFromStock(MaskRecord());
+  article.number.clear();
+  MarkArticleCall(articleScreen_);
+  articleScreen_.ShowCopyOf(article);
+  Unload();
 }
 
 void StockSearchScreen::DeleteItem() {

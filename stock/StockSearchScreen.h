@@ -11,20 +11,13 @@
 #include "platform/ControlCentre.h"
 #include "platform/ListView.h"
 #include "platform/Screen.h"
-#include "stock/ArticleRecords.h"
+#include "stock/Artikelanlegen.h"
 #include "stock/GoodsReceipt.h"
 #include "stock/LGArtikelbearbeiten.h"
 #include "stock/StockCaller.h"
 #include "stock/StockSearchMask.h"
 
 namespace kontorwerk {
-
-// Opens the article screen for a new article.
-struct NewArticleCall {
-  Article content;            // its number is empty
-  bool goodsReceipt = false;  // a receipt of the article is to follow
-  bool document = false;      // a document position waits for the article
-};
 
 class StockSearchScreen : public Screen, public StockSearchMask, public StockCaller {
  public:
@@ -33,13 +26,11 @@ class StockSearchScreen : public Screen, public StockSearchMask, public StockCal
   MenuEntry aktSuchergebnis, Artikeldruck;
   StatusBar StatusBar1;
 
-  std::function<void(const NewArticleCall&)> OpenArticleScreen;
-
   void CloseSearch() override { Unload(); }
 
  protected:
   StockSearchScreen(Context& context, ControlCentre& centre, GoodsReceipt& receipt, LGArtikelbearbeiten& editor,
-                    std::string_view name);
+                    Artikelanlegen& articleScreen, std::string_view name);
 
   void OnLoad() override { EmptyMask(); }
   void OnUnload() override { receipt_.Cancel(*this); }
@@ -48,12 +39,11 @@ class StockSearchScreen : public Screen, public StockSearchMask, public StockCal
   virtual void Search() = 0;
   virtual void Cancel() { Unload(); }
   virtual void TakeOver() = 0;
-  // Empties lists and choice.
-  virtual void ForgetResults() = 0;
   // Number of the chosen stock item; empty if none is chosen.
   [[nodiscard]] virtual std::string ChosenStockNumber() const = 0;
   virtual void RemoveChosenRow() = 0;
-  [[nodiscard]] virtual NewArticleCall ArticleCall() const { return {{}, GoodsReceiptMode, false}; }
+  // Tells the article screen what a new article is wanted for.
+  virtual void MarkArticleCall(Artikelanlegen& articleScreen) { articleScreen.GoodsReceiptCall = GoodsReceiptMode; }
 
   // A double click and Enter take the selected row over.
   void WireList(ListView& list, std::function<void()> showRow);
@@ -68,9 +58,11 @@ class StockSearchScreen : public Screen, public StockSearchMask, public StockCal
   LGArtikelbearbeiten& editor_;
 
  private:
-  void NewArticle(const NewArticleCall& call);
+  void NewArticle();
   void TakeDataOver();
   void DeleteItem();
+
+  Artikelanlegen& articleScreen_;
 };
 
 // A list row of these fields of a record.

@@ -1,3 +1,4 @@
+// Windows-1252 against UTF-8, byte by byte; what Windows-1252 lacks is refused, never turned into something else.
 #include "store/CodePage.h"
 
 #include "store/Text.h"

@@ -1,3 +1,4 @@
+// The Gregorian calendar in whole days and its German texts; no clock: whoever needs today asks the platform.
 #include "store/Dates.h"
 
 #include <array>

@@ -1,3 +1,5 @@
+// Finding files by the paths of the program and saving them safely. The calls of a save go through Disk; looking
+// for names goes through the standard library.
 #include "store/FileSystem.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// German number texts to values and back. Everything goes through std::to_chars and std::from_chars, which know no
+// locale and round exactly.
 #include "store/Numbers.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Cutting fields and words out of a line by walking to them, and joining fields to a line.
 #include "store/RecordLine.h"
 
 #include "store/Text.h"

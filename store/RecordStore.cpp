@@ -1,3 +1,4 @@
+// Tables as whole texts: each change reads the file, makes the new text beside the old one and saves it.
 #include "store/RecordStore.h"
 
 #include <cstddef>

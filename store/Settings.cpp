@@ -1,3 +1,4 @@
+// Reading and making the texts of config.txt; where the file lies and when it is read is for others to say.
 #include "store/Settings.h"
 
 #include <optional>

@@ -1,3 +1,4 @@
+// The string functions of the record files, over bytes; the case tables cover the letters of Windows-1252.
 #include "store/Text.h"
 
 namespace kontorwerk {

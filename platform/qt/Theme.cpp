@@ -17,7 +17,8 @@ namespace kontorwerk {
 namespace {
 
 constexpr int kPortalAnswerMs = 300;
-constexpr uint kPortalDark = 1;
+constexpr uint kPortalDark = 1;  // 0 is no preference
+constexpr uint kPortalLight = 2;
 
 const ThemeColours& LightColours() {
   static const ThemeColours colours = {
@@ -185,7 +186,8 @@ Theme::Tone Theme::DesktopTone() const {
   if (!reply.isValid()) return startTone_;
   QVariant value = reply.value().variant();
   if (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
-  return value.toUInt() == kPortalDark ? Tone::Dark : startTone_;
+  if (value.toUInt() == kPortalDark) return Tone::Dark;
+  return value.toUInt() == kPortalLight ? Tone::Light : startTone_;
 }
 
 void Theme::Apply() {

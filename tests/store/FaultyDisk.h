@@ -1,5 +1,6 @@
 // A disk that counts the calls of a save and breaks one of them on demand, and that watches the order of the calls:
-// a file may be renamed into place only when everything written to it has been synced and it has been closed.
+// a file may be renamed into place only when everything written to it has been synced and it has been closed, both
+// without an error.
 // It syncs nothing for real, so that a sweep over thousands of faults stays quick.
 #pragma once
 
@@ -90,6 +91,7 @@ class FaultyDisk final : public Disk {
     // A close that reports an error has closed all the same; a killed process leaves it to the system.
     open_.erase(handle);
     disk_->Close(handle);
+    if (fails) clean_ = false;
     return fails ? error : 0;
   }
   int CopyPermissions(const std::string& from, const std::string& to) override {

@@ -13,7 +13,8 @@ namespace {
 
 std::string Document(std::string_view body) { return Concat("{\\rtf1\\ansi\\ansicpg1252\\deff0 ", body, "}"); }
 
-std::string FillBody(std::string_view body, std::initializer_list<std::pair<std::string_view, std::string_view>> fields) {
+std::string FillBody(std::string_view body,
+                     std::initializer_list<std::pair<std::string_view, std::string_view>> fields) {
   FieldValues values;
   for (const auto& [name, text] : fields) values.Set(TextArea::Body, name, text);
   return RtfTemplate(Document(body)).Fill(values);
@@ -23,8 +24,7 @@ std::string FillBody(std::string_view body, std::initializer_list<std::pair<std:
 std::string Shown(std::string_view text) { return PlainTextOf(FillBody("a[X]b", {{"X", text}})); }
 
 TEST(RtfTemplate, AMarkIsReplacedAndEverythingElseStaysByteForByte) {
-  EXPECT_EQ(FillBody("\\b An: [KDName]\\b0\\par\r\n", {{"KDName", "Meier"}}),
-            Document("\\b An: Meier\\b0\\par\r\n"));
+  EXPECT_EQ(FillBody("\\b An: [KDName]\\b0\\par\r\n", {{"KDName", "Meier"}}), Document("\\b An: Meier\\b0\\par\r\n"));
 }
 
 TEST(RtfTemplate, AngleBracketsMarkToo) {
@@ -48,7 +48,8 @@ TEST(RtfTemplate, UpperAndLowerCaseOfANameMakeNoDifference) {
 }
 
 TEST(RtfTemplate, UmlautsInNamesAreFoundInEverySpelling) {
-  for (const std::string_view mark : {"[Stra\\'dfe]", "[Stra\xDF"
+  for (const std::string_view mark : {"[Stra\\'dfe]",
+                                      "[Stra\xDF"
                                       "e]",
                                       "[Stra\\u223\\'dfe]", "[Stra\\u223 ?e]", "[Stra\\u223\\'3fe]"})
     EXPECT_EQ(FillBody(mark, {{"Straße"_t, "Weg 1"}}), Document("Weg 1")) << mark;
@@ -90,10 +91,10 @@ TEST(RtfTemplate, AValueThatLooksLikeAMarkIsNotFilledAgain) {
 }
 
 TEST(RtfTemplate, HostileValuesAreShownAsTheyAre) {
-  for (const std::string_view text :
-       {std::string_view("{"), std::string_view("}"), std::string_view("}}}\\par{\\b"), std::string_view("C:\\Belege\\x"),
-        std::string_view("\\'e4 \\u228?"), std::string_view("Meier / Sohn: \"GmbH\" & Co. <KG>"), std::string_view("\\*"),
-        "Müller € „Straße“ ÄÖÜß"_t, "5²·½"_t})
+  for (const std::string_view text : {std::string_view("{"), std::string_view("}"), std::string_view("}}}\\par{\\b"),
+                                      std::string_view("C:\\Belege\\x"), std::string_view("\\'e4 \\u228?"),
+                                      std::string_view("Meier / Sohn: \"GmbH\" & Co. <KG>"), std::string_view("\\*"),
+                                      "Müller € „Straße“ ÄÖÜß"_t, "5²·½"_t})
     EXPECT_EQ(Shown(text), Concat("a", text, "b\r\n")) << text;
   const std::string longText(300, 'x');
   EXPECT_EQ(Shown(longText), Concat("a", longText, "b\r\n"));
@@ -116,15 +117,19 @@ TEST(RtfTemplate, OtherControlCharactersOfAValueAreLeftOut) {
 }
 
 TEST(RtfTemplate, BodyHeaderAndFooterAreFilledEachByItsOwnValues) {
-  const std::string rtf = Document("{\\header [A]}{\\headerf [A]}{\\footer [A]}{\\footerr [A]}[A]{\\shp{\\*\\shpinst{\\shptxt [A]}}}");
+  const std::string rtf =
+      Document("{\\header [A]}{\\headerf [A]}{\\footer [A]}{\\footerr [A]}[A]{\\shp{\\*\\shpinst{\\shptxt [A]}}}");
   FieldValues values;
   values.Set(TextArea::Body, "A", "body");
-  EXPECT_EQ(RtfTemplate(rtf).Fill(values),
-            Document("{\\header [A]}{\\headerf [A]}{\\footer [A]}{\\footerr [A]}body{\\shp{\\*\\shpinst{\\shptxt body}}}"));
+  EXPECT_EQ(
+      RtfTemplate(rtf).Fill(values),
+      Document("{\\header [A]}{\\headerf [A]}{\\footer [A]}{\\footerr [A]}body{\\shp{\\*\\shpinst{\\shptxt body}}}"));
   values.Set(TextArea::Header, "A", "head");
   values.Set(TextArea::Footer, "A", "foot");
-  EXPECT_EQ(RtfTemplate(rtf).Fill(values),
-            Document("{\\header head}{\\headerf head}{\\footer foot}{\\footerr foot}body{\\shp{\\*\\shpinst{\\shptxt body}}}"));
+  EXPECT_EQ(
+      RtfTemplate(rtf).Fill(values),
+      Document(
+          "{\\header head}{\\headerf head}{\\footer foot}{\\footerr foot}body{\\shp{\\*\\shpinst{\\shptxt body}}}"));
 }
 
 TEST(RtfTemplate, ATextFrameInTheHeaderBelongsToTheHeader) {
@@ -140,7 +145,8 @@ TEST(RtfTemplate, AFrameInTheMiddleOfAMarkIsFilledOnItsOwn) {
 
 TEST(RtfTemplate, HiddenPartsOfTheFileHoldNoMarks) {
   const std::string body =
-      "{\\fonttbl{\\f0 [A];}}{\\info{\\title [A]}}{\\*\\generator [A];}{\\pict\\pngblip [A]}{\\field{\\*\\fldinst [A]}{\\fldrslt x}}";
+      "{\\fonttbl{\\f0 [A];}}{\\info{\\title [A]}}{\\*\\generator [A];}{\\pict\\pngblip [A]}{\\field{\\*\\fldinst "
+      "[A]}{\\fldrslt x}}";
   EXPECT_EQ(FillBody(body, {{"A", "x"}}), Document(body));
   EXPECT_TRUE(RtfTemplate(Document(body)).Names(TextArea::Body).empty());
 }
