@@ -5,24 +5,33 @@
 #include "partners/PartnerScreens.h"
 #include "shell/ABRGNewDialog.h"
 #include "shell/StartForm.h"
+#include "shell/Templates.h"
 #include "shell/frmAbout.h"
+#include "stock/StockScreens.h"
 
 namespace kontorwerk {
 
 struct ProgramScreens {
   explicit ProgramScreens(Context& context)
       : startForm(context), newTables(context), about(context), calendar(context, startForm), admin(context, startForm),
-        partners(context) {
+        partners(context), stock(context, startForm) {
     context.desktop.Add(startForm);
     context.desktop.Add(newTables);
     context.desktop.Add(about);
-    startForm.SetActions(Actions());
+    startForm.SetActions(Actions(context));
+    stock.SetSupplierChooser([this](Artikelanlegen::SupplierTaker taker) {
+      partners.ChooseSupplierFor({std::move(taker.take), std::move(taker.waits)});
+    });
   }
 
-  StartFormActions Actions() {
+  StartFormActions Actions(Context& context) {
     StartFormActions actions;
+    actions.openNewArticle = [this] { stock.OpenNewArticle(); };
+    actions.openGoodsReceipt = [this] { stock.OpenForGoodsReceipt(); };
+    actions.openStockEdit = [this] { stock.OpenForEditing(); };
+    actions.provideTemplates = [&context] { ProvideTemplates(context.files, context.settings); };
     actions.openAppointments = [this](const Date& date) { calendar.terminkalender.OpenAt(date); };
-    actions.openNewAppointment = [this](const Date& date) { return calendar.terminkalender.NewAppointmentAt(date); };
+    actions.openNewAppointment = [this](const Date& date) { return calendar.terminkalender.OpenNewAt(date); };
     actions.askAndDeleteAppointment = [this](const Appointment& a) { calendar.terminkalender.AskAndDelete(a); };
     return actions;
   }
@@ -33,6 +42,7 @@ struct ProgramScreens {
   CalendarScreens calendar;
   AdminScreens admin;
   PartnerScreens partners;
+  StockScreens stock;
 };
 
 Program::Program(Desktop& desktop, Platform& platform, const FileSystemObject& files)

@@ -78,8 +78,7 @@ int CountArticlesBelowMinimum(std::string_view stockText) {
     if (minimumText.empty()) return;
     const double minimum = NumberOrZero(minimumText);
     if (NumberOrZero(RecordField(row, kStockLagerbestand)) >= minimum) return;
-    const bool counts = !IsSingleItem(row) ||
-                        singlePieces.FallsShort(RecordField(row, kStockArtNr), minimum);
+    const bool counts = !IsSingleItem(row) || singlePieces.FallsShort(RecordField(row, kStockArtNr), minimum);
     if (counts) ++count;
   });
   return count;

@@ -19,7 +19,8 @@ class SeenNumbers {
   [[nodiscard]] const std::string& Text() const { return text_; }
 
  private:
-  // Starts of all pieces of one length within the text, hashed by their content; a power of two of slots, at most half used.
+  // Starts of all pieces of one length within the text, hashed by their content; a power of two of slots, at most half
+  // used.
   struct Pieces {
     std::vector<std::uint32_t> slots;  // start + 1, 0 for a free slot
     std::size_t used = 0;

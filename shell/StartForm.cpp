@@ -83,9 +83,15 @@ void StartForm::OpenCentre(Centre centre) {
 void StartForm::ShowCounters(Centre centre) {
   RecordStore& store = context_.store;
   switch (centre) {
-    case Centre::Customers: KDAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kCustomers)))); break;
-    case Centre::Suppliers: LFAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kSuppliers)))); break;
-    case Centre::Articles: ArtAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kArticles)))); break;
+    case Centre::Customers:
+      KDAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kCustomers))));
+      break;
+    case Centre::Suppliers:
+      LFAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kSuppliers))));
+      break;
+    case Centre::Articles:
+      ArtAnz.SetCaption(CountText(CountRecords(store.ReadTableText(table::kArticles))));
+      break;
     case Centre::Orders: {
       const OrderCounts orders = CountOrders(store.ReadTableText(table::kOrders));
       AuftrAnz.SetCaption(CountText(orders.all));
@@ -100,7 +106,8 @@ void StartForm::ShowCounters(Centre centre) {
       ShowOpenDocumentCount();
       break;
     }
-    case Centre::Stock: break;
+    case Centre::Stock:
+      break;
   }
 }
 
@@ -180,8 +187,7 @@ void StartForm::WireMenus() {
     actions_.setAutomaticUpdates(Autoupdate.Checked());
   };
   Handbuch.OnClick = [this] { OpenManual(); };
-  for (Image* picture : {&Image2, &Image3})
-    picture->OnClick = [this] { context_.platform.Tell(kContact, "Kontakt"); };
+  for (Image* picture : {&Image2, &Image3}) picture->OnClick = [this] { context_.platform.Tell(kContact, "Kontakt"); };
   Command10.OnClick = [this] { AskToEnd(); };
 }
 

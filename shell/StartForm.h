@@ -86,8 +86,8 @@ class StartForm final : public Screen, public ControlCentre {
   CommandButton Command18{*this, "Command18"};
 
   // Reminders.
-  Label Label23{*this, "Label23"};               // old open documents
-  CommandButton Command22{*this, "Command22"};   // articles below their minimum
+  Label Label23{*this, "Label23"};              // old open documents
+  CommandButton Command22{*this, "Command22"};  // articles below their minimum
   Label Label19{*this, "Label19"};
   Label Label20{*this, "Label20"};
 
@@ -133,6 +133,7 @@ class StartForm final : public Screen, public ControlCentre {
 
   // The start of the program and its waits, in StartFormLoad.cpp.
   StartStep RunStart();
+  void PutControlsToStart();
   bool WaitForFolders();
   StartStep AskForTables();
   StartStep WaitForFirstNumbers();

@@ -48,18 +48,21 @@ void StartForm::OnLoad() {
   }
 }
 
-StartForm::StartStep StartForm::RunStart() {
-  Settings& settings = context_.settings;
+void StartForm::PutControlsToStart() {
   MonthView.SetValue(context_.platform.Today());
   ShowDate();
-  settings.PositionRowCount = kRowsOfOnePage;
+  // The day list is filled at the end of the start alone, although the calendar may have turned to another month.
+  Daybold.SetRunning(false);
   HideCentres();
   ShowStockReminder(false);
-  // The day list is filled at the end of the start alone, although setting the calendar may have turned its month.
-  Daybold.SetRunning(false);
+}
+
+StartForm::StartStep StartForm::RunStart() {
+  PutControlsToStart();
+  context_.settings.PositionRowCount = kRowsOfOnePage;
   ReadConfig();
   if (!WaitForFolders()) return StartStep::Ended;
-  for (const std::string& folder : {context_.platform.ProgramFolder(), settings.DBPath})
+  for (const std::string& folder : {context_.platform.ProgramFolder(), context_.settings.DBPath})
     context_.files.RemoveLeftovers(folder);
   const SeedNumbers numbers = ReadSeedNumbers(context_.store);
   if (numbers.NoneFilled()) return AskForTables();
@@ -105,9 +108,13 @@ bool StartForm::WaitForFolders() {
 
 StartForm::StartStep StartForm::AskForTables() {
   switch (context_.platform.Box(kNoTables, kNoTablesTitle, Buttons::YesNoCancel)) {
-    case Answer::Yes: return WaitForFirstNumbers();
-    case Answer::No: return WaitForOtherFolder();
-    default: Unload(); return StartStep::Ended;
+    case Answer::Yes:
+      return WaitForFirstNumbers();
+    case Answer::No:
+      return WaitForOtherFolder();
+    default:
+      Unload();
+      return StartStep::Ended;
   }
 }
 

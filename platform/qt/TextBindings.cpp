@@ -57,7 +57,12 @@ void LineBinding::ShowState(Aspect aspect, int) {
   if (aspect == Aspect::TextSelection) field_->selectAll();
 }
 
-void LineBinding::ShowAll() { ShowText(); }
+// A field that goes on to another control begins anew: taking back reaches no further than this text.
+void LineBinding::ShowAll() {
+  if (shown_ != Bound()) field_->setText(ToQt(As<TextBox>()->Text()));
+  shown_ = Bound();
+  ShowText();
+}
 
 void LineBinding::ShowEnabled() {
   Binding::ShowEnabled();

@@ -21,6 +21,7 @@ class LineBinding final : public Binding {
  private:
   void ShowText();
   QLineEdit* field_;
+  const Control* shown_ = nullptr;
 };
 
 class AreaBinding final : public Binding {

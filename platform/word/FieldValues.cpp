@@ -1,3 +1,4 @@
+// The collected values of a document, one map an area.
 #include "platform/word/FieldValues.h"
 
 #include "store/Text.h"

@@ -1,3 +1,4 @@
+// The profile, the processes and the job files of LibreOffice; the macro itself lies in OfficeMacro.h.
 #include "platform/word/Office.h"
 
 #include "platform/word/OfficeMacro.h"
@@ -151,7 +152,7 @@ Office::Programs Office::FindPrograms() const {
   const std::string found =
       FindProgram(setup_.program.empty() ? "soffice" : setup_.program,
                   {"/usr/lib/libreoffice/program", "/usr/lib64/libreoffice/program", "/opt/libreoffice/program",
-                   "/usr/local/lib/libreoffice/program", "/snap/bin", "/Applications/LibreOffice.app/Contents/MacOS"});
+                   "/usr/local/lib/libreoffice/program", "/Applications/LibreOffice.app/Contents/MacOS"});
   if (found.empty()) return {};
   std::error_code error;
   const fs::path resolved = fs::canonical(found, error);

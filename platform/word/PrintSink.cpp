@@ -1,3 +1,4 @@
+// Printing through the commands of CUPS, and PDF files.
 #include "platform/word/PrintSink.h"
 
 #include "platform/WordXChange.h"

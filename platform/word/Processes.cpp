@@ -1,3 +1,4 @@
+// Processes, locks and folders of the operating system (POSIX).
 #include "platform/word/Processes.h"
 
 #include <fcntl.h>

@@ -1,3 +1,4 @@
+// Finding marks, filling them and reading a page as plain text: three listeners of the walk through a file.
 #include "platform/word/RtfTemplate.h"
 
 #include "platform/word/RtfWalker.h"
@@ -61,8 +62,12 @@ class MarkFinder final : public RtfListener {
     std::string name;
     std::vector<RtfCharacter> characters;
 
-    void Clear() { bracket = Bracket::None, name.clear(), characters.clear(); }
-    void Open(Bracket kind, const RtfCharacter& first) { Clear(), bracket = kind, characters.push_back(first); }
+    void Clear() { *this = Candidate(); }
+    void Open(Bracket kind, const RtfCharacter& first) {
+      name.clear();
+      characters.assign(1, first);
+      bracket = kind;
+    }
   };
   struct Stream {
     TextArea area;

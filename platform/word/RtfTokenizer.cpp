@@ -1,3 +1,4 @@
+// The lexical rules of rich text.
 #include "platform/word/RtfTokenizer.h"
 
 #include <algorithm>

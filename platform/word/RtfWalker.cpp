@@ -1,3 +1,4 @@
+// Which groups of rich text a reader sees, and which of them are streams of their own.
 #include "platform/word/RtfWalker.h"
 
 #include "store/Text.h"
@@ -125,11 +126,12 @@ void RtfWalker::HandleWord(const RtfToken& token) {
 
 // Characters and breaks that have a word of their own.
 bool RtfWalker::HandleSymbolWord(const RtfToken& token) {
-  for (const SymbolWord& symbol : kSymbolWords)
-    if (symbol.word == token.word) return Show(static_cast<char>(symbol.byte), token.begin, token.end), true;
-  for (const BreakWord& entry : kBreakWords)
-    if (entry.word == token.word) return ShowBreak(entry.kind), true;
-  return false;
+  const auto isMeant = [&](const auto& entry) { return entry.word == token.word; };
+  const auto symbol = std::find_if(kSymbolWords.begin(), kSymbolWords.end(), isMeant);
+  if (symbol != kSymbolWords.end()) Show(static_cast<char>(symbol->byte), token.begin, token.end);
+  const auto breaking = std::find_if(kBreakWords.begin(), kBreakWords.end(), isMeant);
+  if (breaking != kBreakWords.end()) listener_.Break(breaking->kind);
+  return symbol != kSymbolWords.end() || breaking != kBreakWords.end();
 }
 
 bool RtfWalker::HandleDestination(std::string_view word, bool isOptional) {
@@ -162,10 +164,10 @@ void RtfWalker::HandleSymbol(const RtfToken& token) {
     case '_':
       return Show('-', token.begin, token.end);
     case '\t':
-      return ShowBreak(RtfBreak::Tab);
+      return listener_.Break(RtfBreak::Tab);
     case '\r':
     case '\n':
-      return ShowBreak(RtfBreak::Paragraph);
+      return listener_.Break(RtfBreak::Paragraph);
     default:
       return;  // optional hyphens and the like leave nothing to read
   }
@@ -175,7 +177,7 @@ void RtfWalker::HandleText(const RtfToken& token) {
   for (std::size_t i = token.begin; i < token.end; ++i) {
     if (TakeSubstitute(i + 1)) continue;
     if (rtf_[i] == '\t')
-      ShowBreak(RtfBreak::Tab);
+      listener_.Break(RtfBreak::Tab);
     else
       Show(rtf_[i], i, i + 1);
   }
@@ -220,7 +222,5 @@ void RtfWalker::SkipGroup() {
 void RtfWalker::Show(char byte, std::size_t begin, std::size_t end) {
   listener_.Character({byte, begin, end, begin == openWordEnd_});
 }
-
-void RtfWalker::ShowBreak(RtfBreak kind) { listener_.Break(kind); }
 
 }  // namespace kontorwerk

@@ -66,7 +66,6 @@ class RtfWalker {
   [[nodiscard]] bool TakeSubstitute(std::size_t end);
   void Flush();
   void Show(char byte, std::size_t begin, std::size_t end);
-  void ShowBreak(RtfBreak kind);
 
   std::string_view rtf_;
   RtfListener& listener_;

@@ -1,3 +1,4 @@
+// One open document at a time, filled as late as possible and only once.
 #include "platform/word/WordProcessor.h"
 
 #include "platform/word/Office.h"
@@ -6,6 +7,7 @@
 #include "store/Text.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 namespace kontorwerk {
@@ -175,6 +177,8 @@ class InstalledWordProcessor final : private InstalledParts, public WordProcesso
 std::unique_ptr<WordXChange> MakeWordProcessor(const FileSystemObject& files, const std::string& cacheFolder,
                                                std::string pdfFolder, std::function<bool(std::string_view path)> open) {
   const std::string shown = cacheFolder + "/dokumente/";
+  std::error_code error;
+  std::filesystem::create_directories(shown, error);
   RemoveOldFiles(shown, std::chrono::days(7));
   std::string shownFolder = FromUtf8(shown).value_or(pdfFolder);
   return std::make_unique<InstalledWordProcessor>(files, cacheFolder, std::move(shownFolder), std::move(pdfFolder),

@@ -139,10 +139,10 @@ TEST_F(AdminTest, FolderDialogFillsItsField) {
   AnswerFolder("D:\\Daten\\");
   Dialog().Command3.UserClick();
   EXPECT_EQ(Dialog().DBPath.Text(), "D:\\Daten\\");
-  EXPECT_NE(record.str().find("\"title\":\"Verzeichnis für Datenbanken und Vorlagen auswählen\""), std::string::npos);
-  EXPECT_NE(record.str().find("\"folder\":\"C:\\\\test\""), std::string::npos);
-  EXPECT_NE(record.str().find("\"filter\":\"Verzeichnis|*.~~~\""), std::string::npos);
-  EXPECT_NE(record.str().find("\"name\":\"Wählen Sie ein Verzeichnis\""), std::string::npos);
+  EXPECT_NE(record.str().find("\"title\": \"Verzeichnis für Datenbanken und Vorlagen auswählen\""), std::string::npos);
+  EXPECT_NE(record.str().find("\"folder\": \"C:\\\\test\""), std::string::npos);
+  EXPECT_NE(record.str().find("\"filter\": \"Verzeichnis|*.~~~\""), std::string::npos);
+  EXPECT_NE(record.str().find("\"name\": \"Wählen Sie ein Verzeichnis\""), std::string::npos);
 }
 
 TEST_F(AdminTest, CancelledFolderDialogChangesNothing) {
@@ -171,7 +171,7 @@ TEST_F(AdminTest, CopyOfTheFileAsksNamingTheDataFolder) {
   Dialog().Sicherung.UserClick();
   EXPECT_EQ(platform.LastBoxText(), "Kopiervorgang abgeschlossen!");
   EXPECT_EQ(folder.Content("ziel/config.txt"), kComplete);
-  EXPECT_NE(record.str().find("\"title\":\"Sicherung der Einstellungen\""), std::string::npos);
+  EXPECT_NE(record.str().find("\"title\": \"Sicherung der Einstellungen\""), std::string::npos);
 }
 
 TEST_F(AdminTest, FailedCopyEndsInSilence) {

@@ -92,7 +92,7 @@ TEST_F(ChooserTest, NewFolderIsMadeAndListed) {
   Chooser().Command1.UserClick();
   EXPECT_TRUE(files.IsFolder(folder.DataPath("Neuer Ordner 2")));
   EXPECT_EQ(Chooser().Dir1.Items(),
-            (std::vector<std::string>{"..", "Neuer Ordner", "Neuer Ordner 2", "belege", "daten"}));
+            (std::vector<std::string>{"..", "belege", "daten", "Neuer Ordner", "Neuer Ordner 2"}));
 }
 
 TEST_F(ChooserTest, DriveLeadsToItsTop) {

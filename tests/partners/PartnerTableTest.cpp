@@ -115,7 +115,7 @@ TEST(FindPartners, FindsAnyTextOfTheRawLine) {
   EXPECT_EQ(FindPartners(table, ",").size(), 4U);
   EXPECT_EQ(FindPartners(table, "").size(), 4U);
   EXPECT_EQ(FindPartners(table, "MÜLLER"_t).size(), 1U);
-  EXPECT_EQ(FindPartners(table, "','15").size(), 1U);
+  EXPECT_EQ(FindPartners(table, "','15").size(), 3U);
   EXPECT_EQ(FindPartners(table, "*").size(), 0U);
 }
 

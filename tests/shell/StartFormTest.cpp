@@ -36,8 +36,8 @@ class StartFormTest : public ::testing::Test {
   StartFormTest() {
     for (const char* name : {"Rechnungendb.dbf", "Angebotedb.dbf", "Lieferscheinedb.dbf", "Gutschriftendb.dbf"})
       folder_.Put(name, "'short','0100/2026','02.01.2026 ','','x\r\n");
-    folder_.Put("config.txt", Concat("MWSTSatz=19\r\nMWSTSatz2=7\r\nRGPath=rg\r\nABPath=ab\r\nDBPath=",
-                                     folder_.DataPath(), "\r\n"));
+    folder_.Put("config.txt",
+                Concat("MWSTSatz=19\r\nMWSTSatz2=7\r\nRGPath=rg\r\nABPath=ab\r\nDBPath=", folder_.DataPath(), "\r\n"));
     platform_.SetNow({{2026, 11, 15}, {9, 30, 0}});
     desktop_.AddObserver(platform_);
     desktop_.Add(startForm_);
@@ -166,8 +166,9 @@ TEST_F(StartFormTest, AnOpenSupplierMaskIsNotOpenedAgain) {
   EXPECT_TRUE(mask.Visible());
   EXPECT_EQ(platform_.BoxCount(), 0);
   startForm_.Command13.UserClick();
-  EXPECT_EQ(platform_.LastBoxText(), "Das Fenster um Lieferanten neu anzulegen ist bereits geöffnet!\r\n"
-                                     "Bitte Fenster schließen und erneut versuchen."_t);
+  EXPECT_EQ(platform_.LastBoxText(),
+            "Das Fenster um Lieferanten neu anzulegen ist bereits geöffnet!\r\n"
+            "Bitte Fenster schließen und erneut versuchen."_t);
 }
 
 TEST_F(StartFormTest, TheStockSearchIsCaptionedForAGoodsReceipt) {
@@ -233,6 +234,12 @@ TEST_F(StartFormTest, AnEndUnloadsEveryOtherScreenThenQuits) {
   startForm_.Unload();
   EXPECT_EQ(steps_, (std::vector<std::string>{"KDanlegen", "KDsuchen"})) << "hidden ones too, unloaded ones not";
   EXPECT_TRUE(platform_.HasQuit());
+}
+
+TEST_F(StartFormTest, LeftoversOfACrashAreCleaned) {
+  folder_.Put(".kontorwerk-a1b2c3.part", "half a table");
+  startForm_.Load();
+  EXPECT_EQ(folder_.Content(".kontorwerk-a1b2c3.part"), std::nullopt);
 }
 
 TEST_F(StartFormTest, TheTemplatesAreProvidedOnceTheTablesOfAFirstStartAreMade) {

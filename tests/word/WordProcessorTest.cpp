@@ -251,5 +251,19 @@ TEST_F(WordProcessorTest, ADocumentThatCannotBeShownSaysSo) {
   EXPECT_NE(word_->ErrorText().find("konnte nicht angezeigt werden"), std::string::npos);
 }
 
+TEST_F(WordProcessorTest, TheInstalledOneShowsFromTheUsersCacheFolder) {
+  const std::string cache = (folder_.Path() / "cache").string();
+  const auto installed =
+      MakeWordProcessor(files_, cache, folder_.DataPath("pdf") + "\\", [this](std::string_view path) {
+        opened_.emplace_back(path);
+        return true;
+      });
+  ASSERT_TRUE(installed->OpenTemplate(folder_.DataPath("Vorlage.dot")));
+  installed->SetField("KDName", "Meier");
+  EXPECT_TRUE(installed->ShowDocument()) << installed->ErrorText();
+  EXPECT_EQ(opened_, std::vector<std::string>{cache + "/dokumente/Vorlage.doc"});
+  EXPECT_TRUE(folder_.Content("cache/dokumente/Vorlage.doc").value_or("").find("Meier") != std::string::npos);
+}
+
 }  // namespace
 }  // namespace kontorwerk
