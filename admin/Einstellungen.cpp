@@ -37,11 +37,16 @@ Einstellungen::Einstellungen(Context& context, ControlCentre& controlCentre, Ver
       context_(context),
       controlCentre_(controlCentre),
       folderChooser_(folderChooser),
-      fields_{&MWSTSatz, &MWSTSatz2, &RGPath,  &ABPath,          &DBPath,  &RGZahlungsweise, &RGText1,         &RGText2,
-              &LFZahlungsweise,      &LFText1, &LFText2,         &ABZahlungsweise,           &ABText1,         &ABText2,
-              &GSZahlungsweise,      &GSText1, &GSText2,         &FAB,     &FA1,             &FA2,             &FA3,
-              &FA4,                  &FA5,     &FA6,             &FB1,     &FB2,             &FB3,             &Steuernummer,
-              &USTIDNR} {
+      fields_{&MWSTSatz,     &MWSTSatz2, &RGPath,
+              &ABPath,       &DBPath,    &RGZahlungsweise,
+              &RGText1,      &RGText2,   &LFZahlungsweise,
+              &LFText1,      &LFText2,   &ABZahlungsweise,
+              &ABText1,      &ABText2,   &GSZahlungsweise,
+              &GSText1,      &GSText2,   &FAB,
+              &FA1,          &FA2,       &FA3,
+              &FA4,          &FA5,       &FA6,
+              &FB1,          &FB2,       &FB3,
+              &Steuernummer, &USTIDNR} {
   OKButton.OnClick = [this] { Save(); };
   CancelButton.OnClick = [this] { Cancel(); };
   Label24.OnClick = [this] { ExplainFooter(); };
@@ -105,8 +110,8 @@ void Einstellungen::Cancel() {
 }
 
 void Einstellungen::ChooseFolder(TextBox& folder) {
-  const std::optional<std::string> chosen = context_.platform.ChooseFolder(
-      FolderDialog("Verzeichnis für Datenbanken und Vorlagen auswählen"_t, "C:\\test"));
+  const std::optional<std::string> chosen =
+      context_.platform.ChooseFolder(FolderDialog("Verzeichnis für Datenbanken und Vorlagen auswählen"_t, "C:\\test"));
   if (chosen) folder.SetText(WithClosingBackslash(*chosen));
 }
 
@@ -132,9 +137,8 @@ void Einstellungen::CopyConfig() {
   if (!chosen) return;
   const std::string target = WithClosingBackslash(*chosen);
   // Kept: the data folder is named as the source, although the file lies in the program's folder.
-  const std::string question =
-      Concat("Sollen die Einstellungen (config.txt) nun kopiert werden?", kLineEnd, kLineEnd, "Quelle: ",
-             context_.settings.DBPath, kLineEnd, "Zielpfad: ", target);
+  const std::string question = Concat("Sollen die Einstellungen (config.txt) nun kopiert werden?", kLineEnd, kLineEnd,
+                                      "Quelle: ", context_.settings.DBPath, kLineEnd, "Zielpfad: ", target);
   if (!platform.Ask(question, "Kontorwerk - Konfiguration nun kopieren?")) return;
   if (!context_.files.Copy(ConfigPath(), Concat(target, kConfigFile))) return;
   platform.Yield();

@@ -1,5 +1,5 @@
-// How the settings dialog reads config.txt for its fields. It is not quite the reader of the program's settings: a rate is
-// turned back into a percentage, folders stay as they are written, and one key is never taken over.
+// How the settings dialog reads config.txt for its fields. It is not quite the reader of the program's settings: a rate
+// is turned back into a percentage, folders stay as they are written, and one key is never taken over.
 #pragma once
 
 #include <functional>
@@ -20,8 +20,8 @@ struct SwitchFields {
 SwitchFields ReadSettingsFields(std::string_view configText,
                                 const std::function<void(std::string_view key, std::string_view text)>& fill);
 
-// The percentage of a rate as the file holds it: "0,19" gives "19", "0,07" gives "7", "19" stays. Kept: only the last two
-// characters of a fraction count, so "0,165" gives "65".
+// The percentage of a rate as the file holds it: "0,19" gives "19", "0,07" gives "7", "19" stays. Kept: only the last
+// two characters of a fraction count, so "0,165" gives "65".
 [[nodiscard]] std::string RatePercentText(std::string_view rate);
 
 // The folder with a backslash at its end; an empty text becomes a single backslash.

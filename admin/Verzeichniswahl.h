@@ -1,5 +1,5 @@
-// The program's own folder chooser: drives, the folders of the current one, a new folder. It hands the chosen folder to the
-// screen that opened it, which alone knows for which of its fields it was asked for.
+// The program's own folder chooser: drives, the folders of the current one, a new folder. It hands the chosen folder to
+// the screen that opened it, which alone knows for which of its fields it was asked for.
 #pragma once
 
 #include <string>

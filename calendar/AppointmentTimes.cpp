@@ -71,7 +71,8 @@ std::string DurationBetween(std::string_view begin, std::string_view end) {
 
 std::optional<int> MinutesOfDay(std::string_view time) {
   const auto digit = [time](std::size_t place) { return time[place] >= '0' && time[place] <= '9'; };
-  if (Len(time) != kTimeLength || time[2] != ':' || !digit(0) || !digit(1) || !digit(3) || !digit(4)) return std::nullopt;
+  if (Len(time) != kTimeLength || time[2] != ':' || !digit(0) || !digit(1) || !digit(3) || !digit(4))
+    return std::nullopt;
   return HoursOf(time) * kMinutesPerHour + MinutesOf(time);
 }
 

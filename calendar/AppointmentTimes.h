@@ -24,8 +24,8 @@ struct AppointmentEnd {
 // `begin` plus the first five characters of `duration`. A text that is no number counts as 0.
 [[nodiscard]] AppointmentEnd EndOfAppointment(std::string_view begin, std::string_view duration);
 
-// hh:mm from `begin` to `end`, the first five characters of a duration entry; empty if one of them is no time or the end
-// does not lie behind the begin.
+// hh:mm from `begin` to `end`, the first five characters of a duration entry; empty if one of them is no time or the
+// end does not lie behind the begin.
 [[nodiscard]] std::string DurationBetween(std::string_view begin, std::string_view end);
 
 // Minutes since midnight of hh:mm; nothing for any other text.

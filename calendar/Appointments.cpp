@@ -91,8 +91,8 @@ std::string DeleteAppointment(RecordStore& store, std::string_view date, std::st
   return orderNumber;
 }
 
-void ReplaceOrderCopy(RecordStore& store, std::string_view orderNumber, std::string_view oldText, std::string_view newText,
-                      BlankRows blankRows) {
+void ReplaceOrderCopy(RecordStore& store, std::string_view orderNumber, std::string_view oldText,
+                      std::string_view newText, BlankRows blankRows) {
   store.RewriteTable(table::kOrders, blankRows, [&](std::string_view row) {
     if (RecordField(row, kOrderKeyColumn) != orderNumber || !HoldsCopy(row, oldText)) return RowChange::Keep();
     // Kept: the whole line is searched, so that a note which quotes the appointment follows it.

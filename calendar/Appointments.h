@@ -1,5 +1,5 @@
-// Appointments as Termindb.dbf holds them, and the copy of an appointment in the row of its order. Operations over texts
-// and tables; the screens decide when they run and what is said about it.
+// Appointments as Termindb.dbf holds them, and the copy of an appointment in the row of its order. Operations over
+// texts and tables; the screens decide when they run and what is said about it.
 #pragma once
 
 #include <array>
@@ -21,9 +21,9 @@ inline constexpr int kOrderKeyColumn = 1;
 inline constexpr std::array<int, 3> kOrderAppointmentColumns = {19, 20, 21};
 
 struct Appointment {
-  std::string date;         // dd.mm.yyyy
-  std::string begin;        // hh:mm
-  std::string end;          // hh:mm, the hour may exceed 23
+  std::string date;   // dd.mm.yyyy
+  std::string begin;  // hh:mm
+  std::string end;    // hh:mm, the hour may exceed 23
   std::string subject;
   std::string notes;        // line breaks are CR LF
   std::string orderNumber;  // empty: no order
@@ -37,8 +37,8 @@ struct Appointment {
 [[nodiscard]] std::string AppointmentText(std::string_view date, std::string_view begin, std::string_view end);
 
 // The first row with this key; nothing if there is none.
-[[nodiscard]] std::optional<Appointment> FindAppointment(RecordStore& store, std::string_view date, std::string_view begin,
-                                                         std::string_view end);
+[[nodiscard]] std::optional<Appointment> FindAppointment(RecordStore& store, std::string_view date,
+                                                         std::string_view begin, std::string_view end);
 
 // True if an appointment and a row of the same day get in each other's way. The times are clock numbers, 09:15 is 915.
 // Touching at an end is allowed.
@@ -53,8 +53,9 @@ enum class OrderCopy { Clear, Keep };
 // An empty argument does nothing.
 std::string DeleteAppointment(RecordStore& store, std::string_view date, std::string_view begin, std::string_view end,
                               OrderCopy orderCopy);
-// Where the order's row holds `oldText` as one of its copies, that text becomes `newText` wherever it stands in the line.
-void ReplaceOrderCopy(RecordStore& store, std::string_view orderNumber, std::string_view oldText, std::string_view newText,
-                      BlankRows blankRows);
+// Where the order's row holds `oldText` as one of its copies, that text becomes `newText` wherever it stands in the
+// line.
+void ReplaceOrderCopy(RecordStore& store, std::string_view orderNumber, std::string_view oldText,
+                      std::string_view newText, BlankRows blankRows);
 
 }  // namespace kontorwerk

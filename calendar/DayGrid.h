@@ -19,9 +19,9 @@ struct DayGrid {
   std::vector<Date> days;     // the day of each appointment of the table, whatever the day of the grid
 };
 
-// An appointment fills the row of its begin, or of the quarter hour before it; the further rows up to its end carry " -" and
-// its colour. A row in which another appointment begins keeps that one's text. A row of the table without a date that
-// can be read leaves nothing, one without a begin that can be read only its day.
+// An appointment fills the row of its begin, or of the quarter hour before it; the further rows up to its end carry "
+// -" and its colour. A row in which another appointment begins keeps that one's text. A row of the table without a date
+// that can be read leaves nothing, one without a begin that can be read only its day.
 [[nodiscard]] DayGrid MakeDayGrid(std::string_view table, const Date& date);
 
 }  // namespace kontorwerk

@@ -56,7 +56,8 @@ void NeuerTermin::OpenEdit(const Appointment& appointment) {
   const auto entry = std::find_if(entries.begin(), entries.end(),
                                   [&](const std::string& item) { return Left(item, kDurationLength) == duration; });
   if (entry != entries.end()) ComboDauer.SetListIndex(static_cast<int>(entry - entries.begin()));
-  if (const std::optional<double> colour = ToNumber(appointment.colour); colour && *colour >= 0 && *colour <= kWhite.value)
+  if (const std::optional<double> colour = ToNumber(appointment.colour);
+      colour && *colour >= 0 && *colour <= kWhite.value)
     ShowColour(Colour{static_cast<int>(*colour)});
   Show();
 }
@@ -89,9 +90,7 @@ void NeuerTermin::ShowEnds() {
   for (int i = 0; i < ComboDauer.Count(); ++i) ComboDauer.SetItem(i, entries[static_cast<std::size_t>(i)]);
 }
 
-void NeuerTermin::ShowColour(Colour colour) {
-  Text3.SetBackColour(colour);
-}
+void NeuerTermin::ShowColour(Colour colour) { Text3.SetBackColour(colour); }
 
 void NeuerTermin::ChooseColour() {
   const std::optional<Colour> chosen = context_.platform.ChooseColour(Text3.BackColour().value_or(kDefaultColour));

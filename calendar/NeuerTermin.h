@@ -32,7 +32,7 @@ class NeuerTermin final : public Screen {
   // The AuftragNr that stands for no order.
   static constexpr std::string_view kNoOrder = "AuftragNr";
   // The colour of an appointment for which none was chosen.
-  static constexpr Colour kDefaultColour{65280};
+  static constexpr Colour kDefaultColour{32768};
 
   NeuerTermin(Context& context, ControlCentre& controlCentre);
   void SetCalendar(DayGridView* calendar) { calendar_ = calendar; }

@@ -1,6 +1,6 @@
-// What the calendar asks of the screen in which an order is edited: the three labels that show the order's appointments,
-// its save command, and opening an order. The calendar holds a pointer to it, which is null as long as no such
-// screen is part of the program.
+// What the calendar asks of the screen in which an order is edited: the three labels that show the order's
+// appointments, its save command, and opening an order. The calendar holds a pointer to it, which is null as long as no
+// such screen is part of the program.
 #pragma once
 
 #include <string_view>

@@ -11,9 +11,8 @@ namespace kontorwerk {
 
 namespace {
 
-// The rows of the hours that a working day shows first: 18:00 and 07:00.
-constexpr int kEveningRow = 73;
-constexpr int kMorningRow = 29;
+// The row of 15:15: with it at the lower edge a window of usual size shows the working day.
+constexpr int kAfternoonRow = 62;
 // From this begin on the end of the day, up to that one its start is brought into view.
 constexpr int kLateBegin = 1600;
 constexpr int kEarlyBegin = 659;
@@ -40,8 +39,7 @@ void Terminkalender::WireCommands() {
   Command28.OnClick = [this] { AddYears(1); };
   Command29.OnClick = [this] { AddYears(-1); };
   CancelButton.OnClick = [this] { Unload(); };
-  for (CommandButton* command :
-       {&Command1, &Command2, &Command3, &Command4, &Command28, &Command29, &CancelButton})
+  for (CommandButton* command : {&Command1, &Command2, &Command3, &Command4, &Command28, &Command29, &CancelButton})
     command->OnHover = [this, command] {
       if (WindowActive) command->SetFocus();
     };
@@ -109,9 +107,7 @@ void Terminkalender::RefreshDayGrid() {
   MonthView1.ClearBold();
   for (const Date& date : day.days) MonthView1.SetBold(date);
   ListView.SetRows(std::move(day.rows));
-  // First down, then up again: the working day fills the view from its morning on.
-  ListView.EnsureVisible(kEveningRow);
-  ListView.EnsureVisible(kMorningRow);
+  ListView.EnsureVisible(kAfternoonRow);
   ShowUsableCommands();
 }
 
@@ -138,8 +134,7 @@ void Terminkalender::EditSelected() {
     return;
   }
   const Appointment selected = SelectedAppointment();
-  const std::optional<Appointment> found =
-      FindAppointment(context_.store, selected.date, selected.begin, selected.end);
+  const std::optional<Appointment> found = FindAppointment(context_.store, selected.date, selected.begin, selected.end);
   if (found) neuerTermin_.OpenEdit(*found);
 }
 
@@ -152,9 +147,8 @@ void Terminkalender::DeleteSelected() {
 }
 
 void Terminkalender::AskAndDelete(const Appointment& appointment) {
-  const std::string question =
-      Concat("Termin: ", AppointmentText(appointment.date, appointment.begin, appointment.end), " ", appointment.subject,
-             kLineEnd, kLineEnd, "wirklich löschen?"_t);
+  const std::string question = Concat("Termin: ", AppointmentText(appointment.date, appointment.begin, appointment.end),
+                                      " ", appointment.subject, kLineEnd, kLineEnd, "wirklich löschen?"_t);
   if (!context_.platform.Ask(question, "Termin wirklich löschen?"_t)) return;
   neuerTermin_.DeleteAppointment(appointment.date, appointment.begin, appointment.end);
   RefreshDayGrid();

@@ -25,14 +25,14 @@ void KDsuchen::AllowPartnerMenus(bool allowed) {
 }
 
 void KDsuchen::ShowMore(std::string_view number) {
-  const OpenDocuments open = OpenDocumentsOf(context_.store.ReadTableText(table::kOpenDocuments), number);
+  const PartnerDocuments open = PartnerDocumentsOf(context_.store.ReadTableText(table::kOpenDocuments), number);
   ShowDocuments(open);
   SetDocumentsVisible(!open.documents.empty());
 }
 
-void KDsuchen::ShowDocuments(const OpenDocuments& open) {
+void KDsuchen::ShowDocuments(const PartnerDocuments& open) {
   std::vector<ListRow> rows;
-  for (const OpenDocument& document : open.documents) {
+  for (const PartnerDocument& document : open.documents) {
     ListRow row;
     row.cells = {Concat(document.kind, " ", document.number),
                  document.date,

@@ -6,13 +6,13 @@
 #include <string_view>
 #include <vector>
 
-#include "partners/OpenDocuments.h"
+#include "partners/PartnerDocuments.h"
 #include "partners/PartnerSearch.h"
 
 namespace kontorwerk {
 
 // Shows the document of a kind ("RG") and a number in its preview.
-using DocumentPreview = std::function<void(std::string_view kind, std::string_view number)>;
+using PartnerDocumentPreview = std::function<void(std::string_view kind, std::string_view number)>;
 
 class KDsuchen final : public PartnerSearch {
  public:
@@ -20,7 +20,7 @@ class KDsuchen final : public PartnerSearch {
            APAuswahl& chooser);
 
   // What a double click on an open document does; nothing until it is set.
-  void SetDocumentPreview(DocumentPreview preview) { preview_ = std::move(preview); }
+  void SetDocumentPreview(PartnerDocumentPreview preview) { preview_ = std::move(preview); }
 
   MenuEntry Kundenhistorie{*this, "Kundenhistorie"};
   MenuEntry KDDrucken{*this, "KDDrucken"};
@@ -45,12 +45,12 @@ class KDsuchen final : public PartnerSearch {
   void ShowMore(std::string_view number) override;
   void HideMore() override { SetDocumentsVisible(false); }
 
-  void ShowDocuments(const OpenDocuments& open);
+  void ShowDocuments(const PartnerDocuments& open);
   void SetDocumentsVisible(bool visible);
   void PreviewDocument();
   void GoToOpenDocuments();
 
-  DocumentPreview preview_;
+  PartnerDocumentPreview preview_;
   std::vector<Control*> documentControls_{&Suchergebnis2, &Label13, &Label14, &Label15, &Label16, &Label17,
                                           &Label22,       &Label18, &Label19, &Label20, &Label21, &Command12};
 };

@@ -1,48 +1,56 @@
-// The search goes from place to place by the byte under the text's last character, which skips most of the table.
+// The search looks at blocks of the table first: only a block in which the text's first and last character stand at the
+// right distance is looked at closely. The loop over a block has no branch, so that the compiler takes many bytes at
+// a time.
 #include "partners/LineSearch.h"
+
+#include <algorithm>
 
 #include "store/Text.h"
 
 namespace kontorwerk {
 namespace {
 
-using Fold = std::array<unsigned char, 256>;
-
-const Fold& LowerCase() {
-  static const Fold kFold = [] {
-    Fold fold{};
-    for (std::size_t byte = 0; byte < fold.size(); ++byte) {
-      const char c = static_cast<char>(byte);
-      fold[byte] = static_cast<unsigned char>(LCase({&c, 1})[0]);
-    }
-    return fold;
-  }();
-  return kFold;
-}
+constexpr std::size_t kBlock = 64;
 
 }  // namespace
 
 FoldedText::FoldedText(std::string_view text) : lower_(LCase(text)) {
-  skip_.fill(lower_.size());
-  std::array<std::size_t, 256> ofLower{};
-  ofLower.fill(lower_.size());
-  for (std::size_t i = 0; i + 1 < lower_.size(); ++i)
-    ofLower[static_cast<unsigned char>(lower_[i])] = lower_.size() - 1 - i;
-  for (std::size_t byte = 0; byte < skip_.size(); ++byte) skip_[byte] = ofLower[LowerCase()[byte]];
+  const std::string upper = UCase(lower_);
+  letters_.reserve(lower_.size());
+  for (std::size_t i = 0; i < lower_.size(); ++i) letters_.push_back({lower_[i], upper[i]});
+}
+
+bool FoldedText::Matches(const char* place) const {
+  for (const Letter& letter : letters_)
+    if (!letter.Is(*place++)) return false;
+  return true;
+}
+
+bool FoldedText::BlockMayHold(const char* block) const {
+  const Letter first = letters_.front();
+  const Letter last = letters_.back();
+  const char* const tail = block + letters_.size() - 1;
+  unsigned char any = 0;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    const unsigned char begins = (block[i] == first.lower) | (block[i] == first.upper);
+    const unsigned char ends = (tail[i] == last.lower) | (tail[i] == last.upper);
+    any = static_cast<unsigned char>(any | (begins & ends));
+  }
+  return any != 0;
 }
 
 std::size_t FoldedText::FindIn(std::string_view text, std::size_t from) const {
-  const std::size_t length = lower_.size();
-  if (length == 0) return text.empty() ? std::string_view::npos : from;
-  const Fold& fold = LowerCase();
-  const auto matches = [&](std::size_t place) {
-    for (std::size_t i = length; i-- > 0;)
-      if (fold[static_cast<unsigned char>(text[place + i])] != static_cast<unsigned char>(lower_[i])) return false;
-    return true;
-  };
-  for (std::size_t place = from; place + length <= text.size();) {
-    if (matches(place)) return place;
-    place += skip_[static_cast<unsigned char>(text[place + length - 1])];
+  if (letters_.empty()) return from < text.size() ? from : std::string_view::npos;
+  if (text.size() < letters_.size()) return std::string_view::npos;
+  const std::size_t end = text.size() - letters_.size() + 1;  // behind the last place at which the text can begin
+  for (std::size_t place = from; place < end;) {
+    const std::size_t stop = std::min(place + kBlock, end);
+    if (stop - place == kBlock && !BlockMayHold(text.data() + place)) {
+      place = stop;
+      continue;
+    }
+    for (; place < stop; ++place)
+      if (letters_.front().Is(text[place]) && Matches(text.data() + place)) return place;
   }
   return std::string_view::npos;
 }

@@ -2,10 +2,10 @@
 // partners. It looks at the raw lines, separators included, and never copies the table.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/RecordStore.h"
 
@@ -23,8 +23,19 @@ class FoldedText {
   [[nodiscard]] std::size_t FindIn(std::string_view text, std::size_t from = 0) const;
 
  private:
+  // A character of the text in both its cases.
+  struct Letter {
+    char lower;
+    char upper;
+    [[nodiscard]] bool Is(char c) const { return c == lower || c == upper; }
+  };
+
+  [[nodiscard]] bool Matches(const char* place) const;
+  // False if the text begins nowhere in the block, whose bytes and as many behind them as the text has are readable.
+  [[nodiscard]] bool BlockMayHold(const char* block) const;
+
   std::string lower_;
-  std::array<std::size_t, 256> skip_{};  // how far to go on when this byte stands under the text's last one
+  std::vector<Letter> letters_;
 };
 
 // Calls `visit(line)` for each line that holds `searchText`, blank lines left out; an empty text is in every line.

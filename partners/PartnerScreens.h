@@ -20,7 +20,7 @@ class PartnerScreens {
   // The editors that can take a partner over; each must outlive these screens or be set to null before it goes.
   void SetOrderReceiver(PartnerReceiver* order) { receivers_.order = order; }
   void SetDocumentReceiver(PartnerReceiver* document) { receivers_.document = document; }
-  void SetDocumentPreview(DocumentPreview preview) { customerSearch_.SetDocumentPreview(std::move(preview)); }
+  void SetDocumentPreview(PartnerDocumentPreview preview) { customerSearch_.SetDocumentPreview(std::move(preview)); }
   void ChooseSupplierFor(SupplierTarget target) { supplierSearch_.ChooseSupplierFor(std::move(target)); }
 
  private:

@@ -55,6 +55,7 @@ void Screen::Show() {
     desktop_.Activate(*this);
     desktop_.NotifyScreen(*this, ScreenEvent::Shown);
     OnActivate();
+    if (visible_ && !focused_) focused_ = FirstInTabOrder();
   } else {
     BringToFront();
   }
@@ -102,37 +103,50 @@ bool Screen::IsArray(std::string_view name) const {
          });
 }
 
-Control* Screen::NextInTabOrder(const Control& control, bool backwards) const {
-  // Elements of arrays come row by row, all of them where the first array of the form stands.
-  struct Stop {
-    int block;
-    int element;
-    int place;
-    Control* control;
-  };
-  const auto placeOf = [this](const Control& candidate) {
-    const ControlDesign* design = design_ ? design_->Find(candidate.Name()) : nullptr;
-    return design ? design->tabIndex : -1;
-  };
+namespace {
+
+// A control in the order of work. Elements of arrays come row by row, all of them where the first array of the form stands.
+struct Stop {
+  int block;
+  int element;
+  int place;
+  Control* control;
+};
+
+// The reachable controls in the order of work, `always` among them whether it is reachable or not.
+std::vector<Stop> TabOrder(const Screen& screen, const Control* always) {
   std::vector<Stop> stops;
   int firstArrayPlace = -1;
-  for (Control* candidate : controls_) {
-    const int place = placeOf(*candidate);
-    const bool reachable = candidate == &control || (candidate->TakesFocus() && candidate->Usable());
+  for (Control* control : screen.Controls()) {
+    const ControlDesign* design = screen.Design() ? screen.Design()->Find(control->Name()) : nullptr;
+    const int place = design ? design->tabIndex : -1;
+    const bool reachable = control == always || (control->TakesFocus() && control->Usable());
     if (!reachable || place < 0) continue;
-    if (candidate->Index() >= 0 && (firstArrayPlace < 0 || place < firstArrayPlace)) firstArrayPlace = place;
-    stops.push_back({place, candidate->Index(), place, candidate});
+    if (control->Index() >= 0 && (firstArrayPlace < 0 || place < firstArrayPlace)) firstArrayPlace = place;
+    stops.push_back({place, control->Index(), place, control});
   }
   for (Stop& stop : stops)
     if (stop.element >= 0) stop.block = firstArrayPlace;
   std::stable_sort(stops.begin(), stops.end(), [](const Stop& a, const Stop& b) {
     return std::tie(a.block, a.element, a.place) < std::tie(b.block, b.element, b.place);
   });
+  return stops;
+}
+
+}  // namespace
+
+Control* Screen::NextInTabOrder(const Control& control, bool backwards) const {
+  const std::vector<Stop> stops = TabOrder(*this, &control);
   const auto here = std::find_if(stops.begin(), stops.end(), [&](const Stop& stop) { return stop.control == &control; });
   if (here == stops.end() || stops.size() < 2) return nullptr;
   const auto count = static_cast<long>(stops.size());
   const long next = (here - stops.begin() + (backwards ? count - 1 : 1)) % count;
   return stops[static_cast<std::size_t>(next)].control;
+}
+
+Control* Screen::FirstInTabOrder() const {
+  const std::vector<Stop> stops = TabOrder(*this, nullptr);
+  return stops.empty() ? nullptr : stops.front().control;
 }
 
 void ControlArrayBase::Reset(Control& control) const {

@@ -50,10 +50,12 @@ class Screen {
   [[nodiscard]] Control* Find(std::string_view name, int index = Control::kNoIndex) const;
   // True if `name` is that of a control array, whatever its present size.
   [[nodiscard]] bool IsArray(std::string_view name) const;
-  // The control that has, or will have, the focus when the screen is the active one; may be null.
+  // The control that has, or will have, the focus when the screen is the active one; a screen that is shown begins with
+  // the first of its order of work, unless a handler has chosen another. Null on a screen without such a control.
   [[nodiscard]] Control* FocusedControl() const { return focused_; }
   // The next usable control in the order of work, behind `control` (or in front of it); null if there is none.
   [[nodiscard]] Control* NextInTabOrder(const Control& control, bool backwards) const;
+  [[nodiscard]] Control* FirstInTabOrder() const;
   [[nodiscard]] const ScreenDesign* Design() const { return design_; }
   // One turn of the mouse wheel: positive notches are away from the user.
   virtual void OnWheel(int notches) { (void)notches; }

@@ -40,10 +40,31 @@ ArticleMask::ArticleMask(Screen& owner, Context& context)
       EANNr(owner, "EANNr"),
       StatusBar1(owner, "StatusBar1"),
       context_(context),
-      textFields_{&Kat,     &ArtikelNr,     &Bezeichnung,        &B1,         &B2,      &B3,         &B4,
-                  &EANNr,   &Mengeneinheit, &Verpackungseinheit, &Gewicht,    &Größe,   &Hersteller, &Lieferant1,
-                  &BestNr1, &EK1,           &Lieferant2,         &BestNr2,    &EK2,     &Lieferant3, &BestNr3,
-                  &EK3,     &Notizen,       &VK,                 &Brutto} {}
+      textFields_{&Kat,
+                  &ArtikelNr,
+                  &Bezeichnung,
+                  &B1,
+                  &B2,
+                  &B3,
+                  &B4,
+                  &EANNr,
+                  &Mengeneinheit,
+                  &Verpackungseinheit,
+                  &Gewicht,
+                  &Größe,
+                  &Hersteller,
+                  &Lieferant1,
+                  &BestNr1,
+                  &EK1,
+                  &Lieferant2,
+                  &BestNr2,
+                  &EK2,
+                  &Lieferant3,
+                  &BestNr3,
+                  &EK3,
+                  &Notizen,
+                  &VK,
+                  &Brutto} {}
 
 void ArticleMask::FillMask(const Article& article) {
   Kat.SetText(CategoryOf(article.number));
@@ -113,7 +134,8 @@ bool ArticleMask::TakeIntoDocument(PositionReceiver& receiver, const Article& ar
   const int row = receiver.CurrentRow();
   receiver.ClearRow(row);
   if (article.stockKept && !receiver.IsQuotation()) {
-    context_.platform.Tell("Dieser Artikel ist ein Lagerartikel. Bitte suchen Sie\r\ndie entsprechende Position im Lager!");
+    context_.platform.Tell(
+        "Dieser Artikel ist ein Lagerartikel. Bitte suchen Sie\r\ndie entsprechende Position im Lager!");
     return false;
   }
   FillPosition(receiver, context_.settings, row,

@@ -1,6 +1,6 @@
 // The fields of an article as two screens show them, the edit screen and the search, and the two commands that both
-// of them have: the proposal of a number and the take-over into a document. What a screen does when a field changes or is left
-// is its own business.
+// of them have: the proposal of a number and the take-over into a document. What a screen does when a field changes or
+// is left is its own business.
 #pragma once
 
 #include <vector>

@@ -93,7 +93,8 @@ void WriteGroup(std::vector<std::string>& fields, int firstColumn, const std::ar
 
 template <std::size_t count>
 void CopyGroup(const std::array<std::string, count>& texts, StockRecord& record, int firstColumn) {
-  for (std::size_t i = 0; i < count; ++i) record[static_cast<StockColumn>(firstColumn + static_cast<int>(i))] = texts[i];
+  for (std::size_t i = 0; i < count; ++i)
+    record[static_cast<StockColumn>(firstColumn + static_cast<int>(i))] = texts[i];
 }
 
 }  // namespace
@@ -179,9 +180,7 @@ std::string ProposeArticleNumber(std::string_view table, std::string_view catego
 bool ArticleNumberTaken(std::string_view table, std::string_view number) {
   const CaseBlindPattern pattern(number);
   bool taken = false;
-  ForEachRow(table, [&](std::string_view row) {
-    taken = taken || pattern.OccursIn(RecordField(row, kArticleNumber));
-  });
+  ForEachRow(table, [&](std::string_view row) { taken = taken || pattern.OccursIn(RecordField(row, kArticleNumber)); });
   return taken;
 }
 

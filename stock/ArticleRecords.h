@@ -106,8 +106,8 @@ struct ArticleQuery {
 // A typed price as it is shown after leaving its field: money text if it is a number, otherwise as it stands.
 [[nodiscard]] std::string PriceAsShown(std::string_view typed);
 
-// The stock row of the article with everything taken from the article that the two tables share. Its own stay: stock number,
-// quantities, place, serial numbers, notes, last purchase price and history.
+// The stock row of the article with everything taken from the article that the two tables share. Its own stay: stock
+// number, quantities, place, serial numbers, notes, last purchase price and history.
 [[nodiscard]] std::string StockRowOfArticle(std::string_view stockRow, const Article& article);
 
 }  // namespace kontorwerk

@@ -25,19 +25,19 @@ constexpr std::string_view kCopyQuestion = "Dieser Artikel wurde geändert. Ohne
 
 constexpr std::string_view kItemKindHelp =
     "Einzelartikel sind Artikel, welche bsp. eine Serien oder IMEI-Nr besitzen.\r\n"
-    "Beim Wareneingang wird für diesen Artikel eine extra Lagernummer vergeben!\r\n"
+    "Beim Wareneingang wird für diesen Artikel eine extra Lagernummer vergeben!\r\n"_t
     "Wird der Artikel mit der extra Lagernummer verkauft, wird die Lagernummer\r\n"
     "aus der Lagerdatenbank entfernt!\r\n"
     "\r\n"
     "Mehrfachartikel hingegen haben keine Serien / IMEI-Nr..\r\n"
-    "Beim Verkauf wird die Stückzahl des Lagerartikels entsprechend reduziert.\r\n"
+    "Beim Verkauf wird die Stückzahl des Lagerartikels entsprechend reduziert.\r\n"_t
     "Die Lagernummer des Artikels jedoch bleibt auf jeden Fall erhalten!"_t;
 
 constexpr std::string_view kStockTitle = "Änderungen auch bei LagerArtikeln durchführen?"_t;
 constexpr std::string_view kStockQuestion =
-    "Sollen die geänderten Daten in den bereits eingelagerten Lagerartikeln übernommen werden?\r\n"
+    "Sollen die geänderten Daten in den bereits eingelagerten Lagerartikeln übernommen werden?\r\n"_t
     "\r\n"
-    "Achtung: Es werden ´alle´ Felder aus diesem Formular bei den eingelagerten Artikeln neu gesetzt!\r\n"
+    "Achtung: Es werden ´alle´ Felder aus diesem Formular bei den eingelagerten Artikeln neu gesetzt!\r\n"_t
     "\r\n"
     "Ausnahme:\r\n"
     "Hier durchgeführe Änderungen im Notizfeld werden ´nicht´ übernommen und bleiben bei den Lagerartikeln erhalten!"_t;
@@ -333,9 +333,13 @@ void Artikelanlegen::CloseForGoodsReceipt() {
 Artikelanlegen::Leaving Artikelanlegen::AskToLeave(std::string_view question) {
   if (!Changed) return Leaving::Discard;
   switch (context_.platform.Box(question, kLeaveTitle, Buttons::YesNoCancel)) {
-    case Answer::Yes: Changed = false; return Leaving::Discard;
-    case Answer::No: return Save() ? Leaving::Saved : Leaving::SaveRefused;
-    default: return Leaving::Stay;
+    case Answer::Yes:
+      Changed = false;
+      return Leaving::Discard;
+    case Answer::No:
+      return Save() ? Leaving::Saved : Leaving::SaveRefused;
+    default:
+      return Leaving::Stay;
   }
 }
 

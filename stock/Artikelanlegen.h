@@ -44,7 +44,8 @@ class Artikelanlegen final : public Screen, public ArticleMask {
   void SetGoodsReceiptSearch(GoodsReceiptSearch* search) { goodsReceipt_ = search; }
   void SetPositionReceiver(PositionReceiver* receiver) { receiver_ = receiver; }
 
-  // Opens the screen for a new article. Where it is open already, its content is dropped as by its own menu, question included.
+  // Opens the screen for a new article. Where it is open already, its content is dropped as by its own menu, question
+  // included.
   void ShowNew();
   // Opens the screen for the record; the next save replaces it.
   void ShowExisting(const Article& article);

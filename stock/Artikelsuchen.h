@@ -1,5 +1,5 @@
-// The search over the article master. It shows the chosen record, hands it to the article screen for editing or as a pattern
-// for a new one, deletes it, and takes it over into the document that waits.
+// The search over the article master. It shows the chosen record, hands it to the article screen for editing or as a
+// pattern for a new one, deletes it, and takes it over into the document that waits.
 //
 //   state     entered by                                  Command5       RowChosen
 //   asking    loading, "Neue Suche", typing a new term    "Suchen"       false

@@ -28,8 +28,9 @@ CaseBlindPattern::CaseBlindPattern(std::string_view pattern) : pattern_(UCase(pa
 }
 
 bool CaseBlindPattern::MatchesAt(const unsigned char* place) const {
-  return std::equal(pattern_.begin(), pattern_.end(), place,
-                    [this](char wanted, unsigned char found) { return static_cast<unsigned char>(wanted) == upper_[found]; });
+  return std::equal(pattern_.begin(), pattern_.end(), place, [this](char wanted, unsigned char found) {
+    return static_cast<unsigned char>(wanted) == upper_[found];
+  });
 }
 
 std::size_t CaseBlindPattern::FindIn(std::string_view text, std::size_t from) const {

@@ -25,7 +25,7 @@ class CaseBlindPattern {
  private:
   [[nodiscard]] bool MatchesAt(const unsigned char* place) const;
 
-  std::string pattern_;                // upper case
+  std::string pattern_;  // upper case
   std::array<unsigned char, 256> upper_;
   std::array<std::size_t, 256> skip_;  // how far the window may move when its last byte is this one
 };

@@ -5,6 +5,7 @@
 
 #include "platform/FormDesign.h"
 #include "stock/StockFromArticle.h"
+#include "store/Numbers.h"
 #include "store/RecordLine.h"
 #include "store/Text.h"
 
@@ -33,7 +34,7 @@ PositionContent ContentOf(const StockRecord& record) {
           record[kStockArtNr],
           {record[kStockB1], record[kStockB2], record[kStockB3], record[kStockB4]},
           record[kStockVK],
-          record[kStockMWST2] == "1"};
+          IsTrueText(record[kStockMWST2])};
 }
 
 }  // namespace

@@ -9,8 +9,7 @@ namespace kontorwerk {
 
 namespace {
 
-std::string SinglePrice(const PositionReceiver& receiver, const PositionContent& content,
-                        std::optional<double> rate) {
+std::string SinglePrice(const PositionReceiver& receiver, const PositionContent& content, std::optional<double> rate) {
   if (receiver.IsNetDocument()) return content.netPrice;
   const std::optional<double> net = ToNumber(content.netPrice);
   return net && rate ? RoundedMoneyText(*net + *net * *rate) : std::string();

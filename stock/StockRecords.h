@@ -101,10 +101,10 @@ bool RewriteMinimum(RecordStore& store, std::string_view articleNumber, std::str
 
 // What the search screens ask of the stock table. Case does not matter; empty terms find every row.
 struct StockQuery {
-  std::string category;     // part of the article number
-  std::string digits;       // part of the article number
-  std::string freeText;     // any part of the row, looked for only if category and digits are empty
-  std::string stockNumber;  // begins with "#": part of the stock number, and the other terms are passed over
+  std::string category = {};     // part of the article number
+  std::string digits = {};       // part of the article number
+  std::string freeText = {};     // any part of the row, looked for only if category and digits are empty
+  std::string stockNumber = {};  // begins with "#": part of the stock number, and the other terms are passed over
 };
 // The rows that the query finds, in the order of the file. The views live as long as `tableText`.
 [[nodiscard]] std::vector<std::string_view> FindStockRows(std::string_view tableText, const StockQuery& query);

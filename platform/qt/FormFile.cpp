@@ -67,8 +67,8 @@ class FormScan {
   }
 
   void VisitWidget(QDomElement& widget) {
-    const QString followed = PropertyText(widget, QStringLiteral("follows"));
-    form_.followed_ += followed.split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    for (const char* property : {"follows", "followsNot"})
+      form_.followed_ += PropertyText(widget, QLatin1String(property)).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     const QString kind = KindOfClass().value(widget.attribute(QStringLiteral("class")));
     const bool isPicture = PropertyText(widget, QStringLiteral("kind")) == QLatin1String("Image");
     RenameIcon(widget);

@@ -1,5 +1,7 @@
 #include "platform/qt/QtText.h"
 
+#include <QList>
+
 #include "store/Text.h"
 
 namespace kontorwerk {

@@ -112,22 +112,26 @@ void ScreenWindow::BuildGrids(const FormFile& form, FormLoader& loader) {
   }
 }
 
-// Decoration that is shown while one of its controls is.
+// Decoration that is shown while one of its controls is, or while none is.
 void ScreenWindow::CollectFollowers() {
   for (QWidget* widget : window_->findChildren<QWidget*>()) {
-    const QStringList names = widget->property("follows").toString().split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    if (names.isEmpty()) continue;
-    Follower follower{widget, {}};
-    for (const Control* control : screen_.Controls())
-      if (names.contains(ToQt(control->Name()))) follower.followed.push_back(control);
-    followers_.push_back(std::move(follower));
+    for (const bool shownWith : {true, false}) {
+      const QString names = widget->property(shownWith ? "follows" : "followsNot").toString();
+      if (names.isEmpty()) continue;
+      Follower follower{widget, {}, shownWith};
+      for (const Control* control : screen_.Controls())
+        if (names.split(QLatin1Char('|')).contains(ToQt(control->Name()))) follower.followed.push_back(control);
+      followers_.push_back(std::move(follower));
+    }
   }
 }
 
 void ScreenWindow::VisibilityChanged() {
-  for (const Follower& follower : followers_)
-    follower.widget->setVisible(std::any_of(follower.followed.begin(), follower.followed.end(),
-                                            [](const Control* control) { return control->Visible(); }));
+  for (const Follower& follower : followers_) {
+    const bool any = std::any_of(follower.followed.begin(), follower.followed.end(),
+                                 [](const Control* control) { return control->Visible(); });
+    follower.widget->setVisible(any == follower.shownWith);
+  }
 }
 
 void ScreenWindow::Appear() {

@@ -40,6 +40,8 @@ class ScreenWindow final : public QObject, public BindingHost {
   void Update(const Control& control, Aspect aspect, int detail);
   void OnArray(std::string_view name, int count);
   void ThemeChanged();
+  // True if the wheel moves the rows of the window.
+  [[nodiscard]] bool HasRows() const { return !grids_.empty(); }
   // Shows all that waits to be shown together.
   void Settle();
   // The tie that shows the control now; null if it has no widget or its row is scrolled out of view.
@@ -85,6 +87,7 @@ class ScreenWindow final : public QObject, public BindingHost {
   struct Follower {
     QWidget* widget;
     std::vector<const Control*> followed;
+    bool shownWith;  // with them, or in their place
   };
   std::vector<Follower> followers_;
   int wheelAngle_ = 0;  // of a notch that is not complete yet

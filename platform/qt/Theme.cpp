@@ -7,6 +7,7 @@
 #include <QDBusVariant>
 #include <QEvent>
 #include <QFile>
+#include <QFont>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QRegularExpression>
@@ -95,7 +96,8 @@ QString SheetOf(const ThemeColours& colours, Theme::Tone tone, double points) {
     else
       sheet += named.value(name).name();
   }
-  return sheet + QStringView(rules).mid(from);
+  sheet += QStringView(rules).mid(from);
+  return sheet;
 }
 
 class KontorwerkStyle final : public QProxyStyle {

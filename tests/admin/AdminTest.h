@@ -1,4 +1,5 @@
-// The settings dialog over a program folder of its own, with a control centre that reads the settings as the real one does.
+// The settings dialog over a program folder of its own, with a control centre that reads the settings as the real one
+// does.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -163,8 +163,8 @@ TEST_F(AdminTest, CopyOfTheFileAsksNamingTheDataFolder) {
   Dialog().Sicherung.UserClick();
   EXPECT_EQ(platform.LastBoxTitle(), "Kontorwerk - Konfiguration nun kopieren?");
   EXPECT_EQ(platform.LastBoxText(),
-            Concat("Sollen die Einstellungen (config.txt) nun kopiert werden?\r\n\r\nQuelle: daten\\\r\nZielpfad: ", target,
-                   "\\"));
+            Concat("Sollen die Einstellungen (config.txt) nun kopiert werden?\r\n\r\nQuelle: daten\\\r\nZielpfad: ",
+                   target, "\\"));
   EXPECT_FALSE(std::filesystem::exists(folder.Path() / "ziel/config.txt"));
   AnswerFolder(target);
   platform.Push(Answer::Yes);

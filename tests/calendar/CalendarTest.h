@@ -1,5 +1,5 @@
-// The calendar's screens over a data folder of their own, with a clock that stands still, a control centre that counts and an
-// order screen that remembers.
+// The calendar's screens over a data folder of their own, with a clock that stands still, a control centre that counts
+// and an order screen that remembers.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -92,7 +92,7 @@ TEST_F(CalendarTest, NewAppointmentGoesToTheEndOfTheTable) {
   Enter("Besuch", "09:15", 2);
   EXPECT_EQ(Appointments(),
             "'15.11.2026','08:00','08:30','eins','','','0\r\n"
-            "'15.11.2026','09:15','10:00','Besuch','Anruf vorher*__*Unterlagen','','65280\r\n");
+            "'15.11.2026','09:15','10:00','Besuch','Anruf vorher*__*Unterlagen','','32768\r\n");
   EXPECT_EQ(platform.BoxCount(), 0);
   EXPECT_FALSE(Dialog().Loaded());
   EXPECT_EQ(centre.refreshes, 1);
@@ -103,7 +103,7 @@ TEST_F(CalendarTest, EndBehindMidnightIsWarnedOfAndWritten) {
   Enter("spät"_t, "23:00", kTwoHours);
   EXPECT_EQ(platform.LastBoxText(),
             "Termin geht in den nächsten Tag, bitte für den nächsten Tag neuen Termin erstellen!"_t);
-  EXPECT_EQ(Appointments(), Concat("'15.11.2026','23:00','25:00','spät','','','65280\r\n"_t));
+  EXPECT_EQ(Appointments(), Concat("'15.11.2026','23:00','25:00','spät','','','32768\r\n"_t));
 }
 
 TEST_F(CalendarTest, ConflictSavesNothingAndNamesTheOther) {
@@ -129,12 +129,11 @@ TEST_F(CalendarTest, TwoOpenCasesOfOverlapAreSaved) {
   EXPECT_EQ(platform.BoxCount(), 0);
   EXPECT_EQ(Appointments(),
             "'15.11.2026','10:00','10:30','Meier','','','0\r\n"
-            "'15.11.2026','09:00','10:30','gleiches Ende','','','65280\r\n");
+            "'15.11.2026','09:00','10:30','gleiches Ende','','','32768\r\n");
 }
 
 TEST_F(CalendarTest, EditFillsAllFieldsFromTheRow) {
-  Dialog().OpenEdit(
-      {"15.11.2026", "09:15", "10:00", "Besuch", "Zeile 1\r\nZeile 2", "0001000", "255"});
+  Dialog().OpenEdit({"15.11.2026", "09:15", "10:00", "Besuch", "Zeile 1\r\nZeile 2", "0001000", "255"});
   EXPECT_EQ(Dialog().Caption(), "Termin bearbeiten");
   EXPECT_EQ(Dialog().Text1.Text(), "Besuch");
   EXPECT_EQ(Dialog().Text2.Text(), "Sonntag, 15.11.2026");
@@ -198,7 +197,7 @@ TEST_F(CalendarTest, CopyOfAnAppointmentIntoTheNextDayEndsAtMidnight) {
   Dialog().OpenNew(kDay, {}, "0001000");
   Enter("Besuch", "23:00", kTwoHours);
   EXPECT_EQ(orders.labels[0], "15.11.2026, 23:00 - 00:00");
-  EXPECT_EQ(Appointments(), "'15.11.2026','23:00','25:00','Besuch','','0001000','65280\r\n");
+  EXPECT_EQ(Appointments(), "'15.11.2026','23:00','25:00','Besuch','','0001000','32768\r\n");
 }
 
 TEST_F(CalendarTest, OtherOrdersScreenIsLeftAlone) {

@@ -158,11 +158,12 @@ TEST(OrderNumberWarnings, NameEachArticleThatHasTheNumberInAnyOfItsThreeColumns)
   other.number = "ABC00001";
   other.orderNumbers = {"", "", "E-1"};
   const std::string table = Concat(ArticleLine(FullArticle()), "\r\n", ArticleLine(other), "\r\n");
-  EXPECT_EQ(OrderNumberWarnings(table, "E-1"),
-            (Texts{"Achtung: Bestellnummer wurde bereits bei Artikel NET50302 verwendet!\r\n\r\nBezeichnung: Kabel\r\n\r\n"
-                   "Beschreibung:\r\nZeile 1\r\nZeile 2\r\n\r\nZeile 4",
-                   "Achtung: Bestellnummer wurde bereits bei Artikel ABC00001 verwendet!\r\n\r\nBezeichnung: Kabel\r\n\r\n"
-                   "Beschreibung:\r\nZeile 1\r\nZeile 2\r\n\r\nZeile 4"}));
+  EXPECT_EQ(
+      OrderNumberWarnings(table, "E-1"),
+      (Texts{"Achtung: Bestellnummer wurde bereits bei Artikel NET50302 verwendet!\r\n\r\nBezeichnung: Kabel\r\n\r\n"
+             "Beschreibung:\r\nZeile 1\r\nZeile 2\r\n\r\nZeile 4",
+             "Achtung: Bestellnummer wurde bereits bei Artikel ABC00001 verwendet!\r\n\r\nBezeichnung: Kabel\r\n\r\n"
+             "Beschreibung:\r\nZeile 1\r\nZeile 2\r\n\r\nZeile 4"}));
   EXPECT_EQ(OrderNumberWarnings(table, "e-1"), Texts());
   EXPECT_EQ(OrderNumberWarnings(table, "E-"), Texts());
 }
@@ -187,7 +188,8 @@ std::string Hits(std::string_view table, const ArticleQuery& query) {
 }
 
 TEST(FindArticles, EmptyTermsFindEveryRow) {
-  EXPECT_EQ(Hits(Table({"NET00001", "ABC00002"}) + "\r\n\r\n" + Table({"XYZ00003"}), {}), "NET00001 ABC00002 XYZ00003 ");
+  EXPECT_EQ(Hits(Table({"NET00001", "ABC00002"}) + "\r\n\r\n" + Table({"XYZ00003"}), {}),
+            "NET00001 ABC00002 XYZ00003 ");
   EXPECT_EQ(Hits("", {}), "");
   EXPECT_EQ(Hits("'NET00001','ohne Zeilenende", {}), "NET00001 ");
 }
