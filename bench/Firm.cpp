@@ -95,6 +95,7 @@ SqliteTwin& Firm::Twin() {
     twin_->Fill(name, store_.ReadTableText(table), columns, keyColumn);
   };
   fill("customers", table::kCustomers, CustomerKind().DateColumn(), 1);
+  fill("saved_customers", table::kCustomers, CustomerKind().DateColumn(), 1);
   fill("articles", table::kArticles, 29, 1);
   fill("stock", table::kStock, kStockColumnCount, 1);
   fill("open_documents", table::kOpenDocuments, 62, 0);

@@ -58,9 +58,8 @@ Subject& Subject::Rounds(int rounds) {
 
 Subject& Subject::Measure(std::string_view measure, Operation operation) { return Add(measure, prepare_, operation); }
 
-Subject& Subject::MeasureSqlite(std::string_view measure, std::function<std::optional<long>(SqliteTwin& twin)> operation) {
-  const auto makeTwin = [](Firm& firm) { (void)firm.Twin(); };
-  return Add(measure, makeTwin, [operation = std::move(operation)](Firm& firm) { return operation(firm.Twin()); });
+Subject& Subject::MeasureSqlite(std::string_view measure, const Operation& operation) {
+  return Add(measure, [](Firm& firm) { (void)firm.Twin(); }, operation);
 }
 
 Subject& Subject::Add(std::string_view measure, const Preparation& prepare, const Operation& operation) {
@@ -92,8 +91,8 @@ Subject& Subject::BesideGrep(std::string_view table, std::string_view text) {
 }
 
 Subject& Subject::BesideSqliteSearch(std::string_view twinTable, std::string_view text) {
-  MeasureSqlite(kSqliteLine, [=](SqliteTwin& twin) { return twin.RowsLike(twinTable, text); });
-  return MeasureSqlite(kSqliteColumns, [=](SqliteTwin& twin) { return twin.RowsLikeInColumns(twinTable, text); });
+  MeasureSqlite(kSqliteLine, [=](Firm& firm) { return firm.Twin().RowsLike(twinTable, text); });
+  return MeasureSqlite(kSqliteColumns, [=](Firm& firm) { return firm.Twin().RowsLikeInColumns(twinTable, text); });
 }
 
 Subject& Subject::BesideCopy(std::string_view table) {

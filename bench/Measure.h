@@ -36,8 +36,8 @@ class Subject {
   // A measurement is so many rounds, for operations that write or start processes.
   Subject& Rounds(int rounds);
   Subject& Measure(std::string_view measure, Operation operation);
-  // The twin is made before the measurement.
-  Subject& MeasureSqlite(std::string_view measure, std::function<std::optional<long>(SqliteTwin& twin)> operation);
+  // The same with an operation on the firm's twin, which is made before the measurement.
+  Subject& MeasureSqlite(std::string_view measure, const Operation& operation);
 
   // The file read and searched for line ends; of several files all of them.
   Subject& BesideScan(std::vector<std::string_view> tables);

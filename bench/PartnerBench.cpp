@@ -36,7 +36,7 @@ void AddLookup() {
                  return partner ? 1 : 0;
                })
       .BesideScan({table::kCustomers})
-      .Measure(kSqlite, [](Firm& firm) { return firm.Twin().Lookup("customers", MiddleNumber(firm.Rows())); });
+      .MeasureSqlite(kSqlite, [](Firm& firm) { return firm.Twin().Lookup("customers", MiddleNumber(firm.Rows())); });
 }
 
 // A telephone number that changes with each save.
@@ -56,8 +56,8 @@ void AddSave() {
                  return ReplacePartner(firm.WorkshopStore(), CustomerKind(), partner) ? 1 : 0;
                })
       .BesideCopy(table::kCustomers)
-      .Measure(kSqlite, [](Firm& firm) -> std::optional<long> {
-        firm.Twin().Update("customers", MiddleNumber(firm.Rows()), partner::kTel, NewTelephone());
+      .MeasureSqlite(kSqlite, [](Firm& firm) -> std::optional<long> {
+        firm.Twin().Update("saved_customers", MiddleNumber(firm.Rows()), partner::kTel, NewTelephone());
         return 1;
       });
 }
@@ -72,8 +72,8 @@ void AddNewCustomer() {
                  return AppendPartner(firm.WorkshopStore(), CustomerKind(), partner, kToday) ? 1 : 0;
                })
       .BesideCopy(table::kCustomers)
-      .Measure(kSqlite, [](Firm& firm) -> std::optional<long> {
-        firm.Twin().Insert("customers", "neu" + NewTelephone(), "Rosenheim");
+      .MeasureSqlite(kSqlite, [](Firm& firm) -> std::optional<long> {
+        firm.Twin().Insert("saved_customers", "neu" + NewTelephone(), "Rosenheim");
         return 1;
       });
 }
@@ -101,7 +101,7 @@ void AddNumberAndCount() {
   Subject("Counter of the customers")
       .Measure(kProgram, [](Firm& firm) { return static_cast<long>(CountRecords(TableOf(firm))); })
       .BesideScan({table::kCustomers})
-      .MeasureSqlite(kSqlite, [](SqliteTwin& twin) { return twin.Number("SELECT count(*) FROM customers WHERE length(c1)<7"); });
+      .MeasureSqlite(kSqlite, [](Firm& firm) { return firm.Twin().Number("SELECT count(*) FROM customers"); });
 }
 
 }  // namespace

@@ -212,7 +212,7 @@ std::string OpenDocumentRow(long index) {
   const std::string prefix = KindPrefix(index);
   const std::string_view kindWord = prefix == "AB" ? "Angebot" : prefix == "LS" ? "Lieferschein" : "Rechnung";
   std::vector<std::string> fields = {prefix, DocumentNumber(index, 9000), DayBefore(index, 80, 120), CustomerNumber(index / 3),
-                                     PartnerName(index / 3, 0), "", Street(index / 3), Digits(index, 7, 5), Town(index / 3),
+                                     PartnerName(index / 3, 0), "", Street(index / 3), Digits(index, 7, 5), std::string(Town(index / 3)),
                                      "", "", std::string(kindWord), "Falsch", "Wahr", Amount(index), Price(index, 81, 3), "0,00",
                                      Amount(index)};
   if (prefix == "RG") fields.push_back(Amount(index));
@@ -230,7 +230,7 @@ std::string DocumentRow(std::string_view kindWord, long index, long rows) {
   const long positions = 3 + index % 4;
   std::vector<std::string> fields = {std::to_string(positions), DocumentNumber(index, rows), DayBefore(index, 90, 300),
                                      CustomerNumber(index / 5), PartnerName(index / 5, rows), "", Street(index / 5),
-                                     Digits(index / 5, 7, 5), Town(index / 5), "Hu", "", std::string(kindWord), "Falsch", "Wahr"};
+                                     Digits(index / 5, 7, 5), std::string(Town(index / 5)), "Hu", "", std::string(kindWord), "Falsch", "Wahr"};
   for (long position = 0; position < positions; ++position) {
     const long article = index + position;
     for (const std::string& text : {StockNumber(article), ArticleNumber(article), std::to_string(1 + position),

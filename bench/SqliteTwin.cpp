@@ -67,6 +67,10 @@ long SqliteTwin::RowsLikeInColumns(std::string_view name, std::string_view text)
   return Execute("SELECT c1,c2,c3,c4,c5 FROM " + std::string(name) + " WHERE " + where, {Pattern(text)});
 }
 
+long SqliteTwin::RowsLikeInFirstColumn(std::string_view name, std::string_view text) {
+  return Execute("SELECT c1,c2,c3,c4,c5 FROM " + std::string(name) + " WHERE c1 LIKE ?1", {Pattern(text)});
+}
+
 long SqliteTwin::Lookup(std::string_view name, std::string_view key) {
   return Execute("SELECT * FROM " + std::string(name) + " WHERE c1=?1", {ToUtf8(key)});
 }

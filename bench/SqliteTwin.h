@@ -27,6 +27,8 @@ class SqliteTwin {
   [[nodiscard]] long RowsLike(std::string_view name, std::string_view text);
   // The same over each column.
   [[nodiscard]] long RowsLikeInColumns(std::string_view name, std::string_view text);
+  // The same over the first column alone.
+  [[nodiscard]] long RowsLikeInFirstColumn(std::string_view name, std::string_view text);
   // Reads all columns of the row with this key; 1, or 0 without one.
   [[nodiscard]] long Lookup(std::string_view name, std::string_view key);
   void Update(std::string_view name, std::string_view key, int column, std::string_view text);

@@ -23,11 +23,14 @@ class CaseBlindPattern {
   [[nodiscard]] std::size_t Length() const { return pattern_.size(); }
 
  private:
-  [[nodiscard]] bool MatchesAt(const unsigned char* place) const;
+  [[nodiscard]] bool MatchesAt(const char* place) const;
 
   std::string pattern_;  // upper case
   std::array<unsigned char, 256> upper_;
-  std::array<std::size_t, 256> skip_;  // how far the window may move when its last byte is this one
+  // The character of the pattern that a table is likely to hold least, in both its cases: the scan looks for it alone.
+  std::size_t anchor_ = 0;
+  char anchorUpper_ = 0;
+  char anchorLower_ = 0;
 };
 
 // Calls `visit(row)` for each row of the table's text that holds the pattern, in order, blank rows left out.

@@ -10,6 +10,8 @@
 namespace kontorwerk {
 namespace {
 
+constexpr int kButtonPad = 7;
+constexpr int kButtonColumns = 12;  // characters that a button has room for at least
 constexpr int kPad = 12;
 constexpr int kGap = 12;
 constexpr int kCardTile = 40;
@@ -50,15 +52,17 @@ QSize CommandWidget::PanelSize(Look look) const {
   return {2 * kPad + kCardTile + kGap + width, 2 * kPad + std::max(height, kCardTile)};
 }
 
+// Buttons beside each other are of one height, with a picture or without.
 QSize CommandWidget::sizeHint() const {
   const Look look = CurrentLook();
-  return look == Look::Button ? QPushButton::sizeHint() : PanelSize(look);
+  if (look != Look::Button) return PanelSize(look);
+  const int height = fontMetrics().height() + 2 * kButtonPad;
+  const bool narrow = text().isEmpty() || property("compact").toBool();
+  return QPushButton::sizeHint().expandedTo({narrow ? height : fontMetrics().averageCharWidth() * kButtonColumns, height});
 }
 
-QSize CommandWidget::minimumSizeHint() const {
-  const Look look = CurrentLook();
-  return look == Look::Button ? QPushButton::minimumSizeHint() : PanelSize(look);
-}
+// Never narrower than its text.
+QSize CommandWidget::minimumSizeHint() const { return sizeHint(); }
 
 void CommandWidget::paintEvent(QPaintEvent* event) {
   const Look look = CurrentLook();

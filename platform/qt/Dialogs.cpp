@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/qt/CommandWidget.h"
 #include "platform/qt/Icons.h"
 
 namespace kontorwerk {
@@ -109,8 +110,9 @@ class BoxDialog final : public QDialog {
 
   // The first button is the one that Enter presses.
   void AddButton(QHBoxLayout& row, const QString& caption, Answer answer) {
-    auto* button = new QPushButton(caption);
-    button->setDefault(findChildren<QPushButton*>().isEmpty() && row.count() == 1);
+    auto* button = new CommandWidget(this);
+    button->setText(caption);
+    button->setDefault(row.count() == 1);
     row.addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, answer] { done(static_cast<int>(answer) + 1); });
     if (row.count() == 2) button->setFocus();
@@ -143,9 +145,11 @@ std::optional<PrinterDialogChoice> ShowPrinterDialog(QWidget* parent, const QStr
   form->addRow(QStringLiteral("&Exemplare:"), copies);
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  auto* print = new QPushButton(QStringLiteral("D&rucken"));
+  auto* print = new CommandWidget(&dialog);
+  print->setText(QStringLiteral("D&rucken"));
   print->setDefault(true);
-  auto* cancel = new QPushButton(QStringLiteral("&Abbrechen"));
+  auto* cancel = new CommandWidget(&dialog);
+  cancel->setText(QStringLiteral("&Abbrechen"));
   row->addWidget(print);
   row->addWidget(cancel);
   form->addRow(row);

@@ -27,6 +27,7 @@
 namespace kontorwerk {
 namespace {
 
+constexpr QSize kMemoryScreen{1920, 1080};
 constexpr int kNotch = 120;  // eighths of a degree
 
 std::string NameOf(const QString& name) { return FromQt(name).value_or(std::string()); }
@@ -147,8 +148,9 @@ void ScreenWindow::Disappear() { window_->hide(); }
 void ScreenWindow::PlaceOnScreen() {
   placed_ = true;
   window_->ensurePolished();
-  const QScreen* screen = window_->screen();
-  const QRect room = screen->availableGeometry();
+  QRect room = window_->screen()->availableGeometry();
+  // Windows that are drawn in memory alone have a screen of a size that means nothing.
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) room.setSize(kMemoryScreen);
   const QSize wanted = window_->size().expandedTo(window_->sizeHint()).boundedTo(room.size());
   window_->resize(wanted);
   const QWidget* before = QApplication::activeWindow();

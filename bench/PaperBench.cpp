@@ -1,0 +1,8 @@
+// Paper.
+#include "bench/Subjects.h"
+
+namespace kontorwerk::bench {
+
+void AddPaperSubjects() {}
+
+}  // namespace kontorwerk::bench
