@@ -8,14 +8,19 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <ostream>
 #include <string>
 
 #include "bench/Fail.h"
-#include "bench/HeadlessProgram.h"
+#include "bench/Firm.h"
 #include "bench/Rows.h"
 #include "bench/Subjects.h"
 #include "partners/KDsuchen.h"
+#include "partners/PartnerScreens.h"
 #include "partners/PartnerTable.h"
+#include "platform/Context.h"
+#include "platform/headless/EventLog.h"
+#include "platform/headless/OperatorPlatform.h"
 #include "store/Text.h"
 
 namespace kontorwerk::bench {
@@ -24,13 +29,19 @@ namespace {
 constexpr long kRows = 100000;
 constexpr double kBytesOfAKilobyte = 1024;
 
-void Search(const Firm& firm, std::string_view text) {
-  HeadlessProgram program(firm);
-  auto& search = program.Get<KDsuchen>("KDsuchen");
+// The screens of the customers alone: a start would read tables that have nothing to do with them.
+void Search(Firm& firm, std::string_view text) {
+  std::ostream nowhere(nullptr);
+  EventLog log(nowhere);
+  OperatorPlatform platform(log, firm.ProgramFolder().string(), nullptr);
+  Desktop desktop;
+  Settings settings;
+  Context context{desktop, platform, firm.Store().Files(), firm.Store(), settings};
+  const PartnerScreens screens(context);
+  auto& search = static_cast<KDsuchen&>(*desktop.Find("KDsuchen"));
   search.Show();
-  program.Surroundings().Yield();
-  program.Hand().SetText(search.Fields.Box(partner::kName), text);
-  program.Hand().Click(search.Command1);
+  search.Fields.Box(partner::kName).UserText(text);
+  search.Command1.UserClick();
   if (search.Suchergebnis.RowCount() == 0) Fail("the search has found nothing");
 }
 

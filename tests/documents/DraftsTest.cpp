@@ -32,7 +32,9 @@ TEST(DraftLinesOf, LineIsFoundByItsFirstElevenCharacters) {
 }
 
 TEST(NumberBehindHighestDraft, LooksAtItsOwnPrefixOnly) {
-  constexpr std::string_view text = "EF0150/2007=a\r\nEF0152/2007=b\r\nAB0900/2007=c\r\nEF????/2007=d\r\n";
+  constexpr std::string_view text =
+      "EF0150/2007=a\r\nEF0152/2007=b\r\nAB0900/2007=c\r\nEF????"
+      "/2007=d\r\n";
   EXPECT_EQ(NumberBehindHighestDraft(text, "EF", "01.02.2008"), "0153/2008");
   EXPECT_EQ(NumberBehindHighestDraft(text, "AB", "01.02.2008"), "0901/2008");
   EXPECT_EQ(NumberBehindHighestDraft("", "EF", "01.02.2008"), "0001/2008");
