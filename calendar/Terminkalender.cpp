@@ -69,6 +69,7 @@ void Terminkalender::OpenForOrder(const Date& date, const OrderContext& order) {
   SetOrderContext(order);
   MonthView1.SetValue(date);
   RefreshDayGrid();
+  CancelButton.SetCaption("Beenden");
   Show();
 }
 

@@ -46,6 +46,10 @@ ABRGForm::ABRGForm(Context& context, ControlCentre& controlCentre, LFRGForm& cho
 }
 
 void ABRGForm::WireHead() {
+  for (const Prompt& prompt : Prompts())
+    prompt.field->OnEnter = [prompt] {
+      if (prompt.field->Text() == prompt.text) prompt.field->SelectAll();
+    };
   ABRGNR.OnLeave = [this] { CheckNumberLeft(); };
   Datum.OnLeave = [this] { CheckDateLeft(); };
   ComboABRG.OnChange = [this] { OnKindChanged(); };

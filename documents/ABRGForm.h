@@ -9,6 +9,7 @@
 // ABRGFormNew.cpp, articles and amounts in ABRGFormPositions.cpp.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -69,6 +70,8 @@ class ABRGForm final : public Screen, public PartnerReceiver, public PositionRec
 
   // Recomputes all rows and the amounts below them.
   void Berechnen();
+  // The option buttons and the kind of prices that the rows are taken to hold; nothing is computed.
+  void SetPriceBase(PriceBase base);
   // Empties all rows.
   void ClearPositions();
   // Puts head, selector, rates, amounts and closing texts to a new document's.
@@ -161,7 +164,12 @@ class ABRGForm final : public Screen, public PartnerReceiver, public PositionRec
 
   // A new document.
   void ClearDocument(Address address);
-  void ClearHead(Address address);
+  struct Prompt {
+    TextBox* field;
+    std::string_view text;
+  };
+  [[nodiscard]] std::array<Prompt, 6> Prompts();
+  void ShowPrompts();
   void ForgetDocument();
   [[nodiscard]] std::string StartingDate() const;
   void StartNewCustomer();
@@ -176,11 +184,11 @@ class ABRGForm final : public Screen, public PartnerReceiver, public PositionRec
               std::string_view running, std::string_view failure);
   void ReportLookup(bool found, std::string_view failure);
   void ChangePriceBase(PriceBase wanted);
-  void SetPriceBase(PriceBase base);
 
   // Saving and printing.
   void SaveAndPrint();
   [[nodiscard]] Step AskForCustomer();
+  [[nodiscard]] bool RefusedForNumber();
   [[nodiscard]] Step AskWhatToPrint();
   void BelegDrucken();
   [[nodiscard]] Step SaveByKind();

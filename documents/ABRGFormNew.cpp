@@ -22,6 +22,15 @@ constexpr std::string_view kOtherCustomer =
 
 }  // namespace
 
+std::array<ABRGForm::Prompt, 6> ABRGForm::Prompts() {
+  return {{{&Anrede, "Anrede"},
+           {&KDName, "Vorname, Name"},
+           {&Ansprechpartner, "Ansprechpartner"},
+           {&Straße, "Straße"_t},
+           {&PLZ, "PLZ"},
+           {&Wohnort, "Wohnort"}}};
+}
+
 // Today, or the last day of the year before as long as the tables have not been turned to the new year.
 std::string ABRGForm::StartingDate() const {
   const Date today = context_.platform.Today();
@@ -29,22 +38,16 @@ std::string ABRGForm::StartingDate() const {
   return DateText({today.year - 1, 12, 31});
 }
 
-void ABRGForm::ClearHead(Address address) {
-  if (address == Address::Keep) return;
+void ABRGForm::ShowPrompts() {
   KDNr.Clear();
-  Anrede.SetText("Anrede");
-  KDName.SetText("Vorname, Name");
-  Ansprechpartner.SetText("Ansprechpartner");
-  Straße.SetText("Straße"_t);
-  PLZ.SetText("PLZ");
-  Wohnort.SetText("Wohnort");
+  for (const Prompt& prompt : Prompts()) prompt.field->SetText(prompt.text);
 }
 
 void ABRGForm::ClearDocumentForm() { ClearDocument(Address::Prompts); }
 
 void ABRGForm::ClearDocument(Address address) {
   const Settings& settings = context_.settings;
-  ClearHead(address);
+  if (address == Address::Prompts) ShowPrompts();
   Datum.SetText(StartingDate());
   ABRGNR.SetText(PendingNumber(Datum.Text()));
   LieferscheinNr.SetCaption({});

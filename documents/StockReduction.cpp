@@ -103,8 +103,8 @@ std::string PendingStockEntry(std::string_view LGNr, std::string_view quantity) 
 bool TakePendingOutOfStock(RecordStore& store, std::string_view pendingList, std::string_view today) {
   const std::string_view entries = LTrim(pendingList);
   if (entries.empty()) return true;
-  // Kept: only the first entry takes effect. The stock of collective invoices was always kept right by hand for the
-  // others, and taking them out as well would count them twice.
+  // Kept: only the first entry takes effect. Older versions close the table behind it, and firms correct the stock of a
+  // collective invoice by hand; taking out the others now would count them twice.
   const std::string_view entry = entries.substr(0, entries.find(' '));
   const std::string_view number = RecordField(entry, 1);
   const std::string_view quantity = RecordField(entry, 2);

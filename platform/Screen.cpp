@@ -77,6 +77,7 @@ void Screen::Unload() {
   visible_ = false;
   desktop_.ForgetFocus(*this);
   desktop_.NotifyScreen(*this, ScreenEvent::Unloaded);
+  OnUnloaded();
 }
 
 void Screen::Close() {

@@ -68,6 +68,8 @@ class Screen {
   virtual void OnLoad() {}
   virtual void OnActivate() {}
   virtual void OnUnload() {}
+  // Behind the unload: the screen is gone.
+  virtual void OnUnloaded() {}
   virtual void OnCloseRequest() { Unload(); }
 
  private:

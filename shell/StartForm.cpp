@@ -287,7 +287,7 @@ void StartForm::ShowDate() {
 
 void StartForm::ShowYear(int step) {
   MonthView.AddYears(step);
-  ShowDate();
+  // Kept: the caption above the day list stays with the day that was clicked last, the arrows turn the calendar alone.
   Daybold.SetRunning(true);
 }
 

@@ -129,6 +129,7 @@ class StartForm final : public Screen, public ControlCentre {
 
   void OnLoad() override;
   void OnUnload() override;
+  void OnUnloaded() override { context_.platform.Quit(); }
   void OnCloseRequest() override { AskToEnd(); }
 
   // The start of the program and its waits, in StartFormLoad.cpp.

@@ -161,7 +161,6 @@ void StartForm::OnUnload() {
   const std::vector<Screen*> screens = context_.desktop.Screens();
   for (Screen* screen : screens)
     if (screen != this) screen->Unload();
-  context_.platform.Quit();
 }
 
 }  // namespace kontorwerk

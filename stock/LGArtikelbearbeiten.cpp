@@ -56,10 +56,11 @@ void LGArtikelbearbeiten::OnLoad() {
 
 bool LGArtikelbearbeiten::ReadyForAnother() { return !Visible() || LeavingAllowed(); }
 
-void LGArtikelbearbeiten::Open(StockCaller& caller, const StockRecord& record) {
+void LGArtikelbearbeiten::Open(StockCaller& caller, const StockRecord& record, Purpose purpose) {
   Unload();
   Load();
   caller_ = &caller;
+  purpose_ = purpose;
   FillMask(record);
   // A single item always counts 1.
   Lagerbestand.SetEnabled(!record.SingleItem());
@@ -69,7 +70,7 @@ void LGArtikelbearbeiten::Open(StockCaller& caller, const StockRecord& record) {
 }
 
 void LGArtikelbearbeiten::OpenForEditing(StockCaller& caller, const StockRecord& record) {
-  Open(caller, record);
+  Open(caller, record, Purpose::Edit);
   SetStatus(Concat("Status des Artikels: ", record[kStockStatus]));
   Changed = false;
   Show();
@@ -77,7 +78,7 @@ void LGArtikelbearbeiten::OpenForEditing(StockCaller& caller, const StockRecord&
 }
 
 void LGArtikelbearbeiten::OpenForReceipt(StockCaller& caller, const StockRecord& record, Position position) {
-  Open(caller, record);
+  Open(caller, record, Purpose::Receipt);
   ForceNewPosition = position == Position::New;
   Changed = true;
   Show();
@@ -142,15 +143,15 @@ std::string LGArtikelbearbeiten::NameAndNumber() const {
 bool LGArtikelbearbeiten::Save() {
   aktEK.SetText(PriceAsShown(aktEK.Text()));
   SetStatus("speichern... Bitte warten!");
-  const bool receipt = caller_ && caller_->GoodsReceiptMode;
-  const bool edit = caller_ && caller_->StockEditMode;
+  const bool receipt = purpose_ == Purpose::Receipt;
   if (ForceNewPosition || (receipt && !LagerNr.Text().starts_with('#'))) {
     if (!Append()) return false;
   } else if (receipt) {
     RewriteExisting = true;
   }
   // Kept: a record just appended is written a second time, and the table gains its blank line.
-  if ((receipt || edit || RewriteExisting) && !Rewrite(receipt ? kStatusReceipt : kStatusChange)) return false;
+  const bool known = purpose_ != Purpose::None || RewriteExisting;
+  if (known && !Rewrite(receipt ? kStatusReceipt : kStatusChange)) return false;
   RewriteExisting = false;
   Changed = false;
   if (MinSollChanged) SpreadMinimum();

@@ -46,7 +46,11 @@ class LGArtikelbearbeiten final : public Screen, public StockMask {
 
   void WireFields();
   void WirePrices();
-  void Open(StockCaller& caller, const StockRecord& record);
+  // What the shown record was opened for; decides how a save writes it and with which phrase. Kept by the screen itself,
+  // since the search may be reopened for other work while a receipt still waits for its save.
+  enum class Purpose { None, Edit, Receipt };
+
+  void Open(StockCaller& caller, const StockRecord& record, Purpose purpose);
   void CheckQuantity();
   void NoteMinimumChange();
   void ComputeGross();
@@ -69,6 +73,7 @@ class LGArtikelbearbeiten final : public Screen, public StockMask {
   Context& context_;
   ControlCentre& centre_;
   StockCaller* caller_ = nullptr;
+  Purpose purpose_ = Purpose::None;
 };
 
 }  // namespace kontorwerk

@@ -1,4 +1,4 @@
-// What the edit screen of a stock item asks of the search that has opened it.
+// What a stock search was opened for, and what the edit screen asks of the search that has opened it.
 #pragma once
 
 namespace kontorwerk {
@@ -6,7 +6,7 @@ namespace kontorwerk {
 class StockCaller {
  public:
   // At most one of the two is set: the search was opened to receive goods, or to edit stock items. They outlive the
-  // closing of the search, since a save that comes later still reads them.
+  // closing of the search: the way back from the edit screen opens it as it was.
   bool GoodsReceiptMode = false;
   bool StockEditMode = false;
 

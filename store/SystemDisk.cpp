@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -16,6 +17,9 @@ namespace {
 
 constexpr std::chrono::milliseconds kRenamePause(50);
 constexpr std::size_t kReadBeyondEnd = 4096;
+// A text grows by so much at a time: what its growing sets to zero is then still in the processor's cache when the
+// read overwrites it.
+constexpr std::size_t kReadBlock = 256 * 1024;
 
 // Calls again as long as a signal interrupts.
 template <typename Call>
@@ -30,10 +34,12 @@ int ErrorOf(int result) { return result < 0 ? errno : 0; }
 // Reads up to `size` bytes to the end of `content`; the errno value, `taken` is what came.
 int ReadPart(int handle, std::size_t size, std::string& content, std::size_t& taken) {
   const std::size_t start = content.size();
-  content.resize(start + size);
   taken = 0;
   while (taken < size) {
-    const ssize_t count = Uninterrupted([&] { return ::read(handle, content.data() + start + taken, size - taken); });
+    content.resize(std::max(content.size(), start + taken + std::min(kReadBlock, size - taken)));
+    char* const place = content.data() + start + taken;
+    const std::size_t room = content.size() - start - taken;
+    const ssize_t count = Uninterrupted([&] { return ::read(handle, place, room); });
     if (count < 0) return errno;
     if (count == 0) break;
     taken += static_cast<std::size_t>(count);

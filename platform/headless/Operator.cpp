@@ -78,8 +78,11 @@ bool Operator::RunNextStep() {
   const Step& step = steps_[next_++];
   const int outerLine = log_.Line();
   log_.SetLine(step.line);
+  ++depth_;
   Execute(step);
-  log_.SetLine(outerLine == 0 ? step.line : outerLine);
+  --depth_;
+  // What the outer step does behind its wait is told as that step's.
+  if (depth_ > 0) log_.SetLine(outerLine);
   return true;
 }
 
@@ -125,6 +128,11 @@ int Operator::NumberAt(const Step& step, std::size_t index) {
   return number;
 }
 
+bool Operator::IsPosition(const Step& step, std::size_t index) {
+  const std::string& text = ArgumentAt(step, index);
+  return !step.arguments[index].quoted && text.find_first_not_of("-0123456789") == std::string::npos;
+}
+
 Screen& Operator::ScreenNamed(std::string_view name) {
   Screen* screen = desktop_.Find(name);
   if (!screen) Fault(Concat("unknown screen: ", name));
@@ -166,7 +174,7 @@ bool Operator::TakeFocus(Control& control) { return driver_.MoveFocus(control); 
 
 int Operator::RowAt(const Step& step, std::size_t index, const ListView& list) {
   const std::string& text = ArgumentAt(step, index);
-  if (!step.arguments[index].quoted) {
+  if (IsPosition(step, index)) {
     const int row = NumberAt(step, index);
     if (row < 1 || row > list.RowCount()) Fault(Concat("unknown row: ", text));
     return row;
@@ -192,6 +200,8 @@ Operator::Value Operator::ReadValue(const Step& step) {
   }
   const auto value = target.parts.size() == 1 ? PropertyOf(screen, target.parts.front()) : std::nullopt;
   if (!value) Fault(Concat("unknown control: ", name));
+  // With the program every window is gone, also one that a closing screen has opened on the way.
+  if (platform_.HasQuit() && target.parts.front() == "visible") return {name, "false"};
   return {name, *value};
 }
 

@@ -48,6 +48,8 @@ class Operator {
   const std::string& ArgumentAt(const Step& step, std::size_t index);
   void NeedArguments(const Step& step, std::size_t least, std::size_t most);
   int NumberAt(const Step& step, std::size_t index);
+  // True for a place in a list, false for the text of an entry: whatever is quoted or no number.
+  bool IsPosition(const Step& step, std::size_t index);
   Screen& ScreenNamed(std::string_view name);
   Control* FindControl(std::string_view name);
   Control& ControlNamed(std::string_view name);
@@ -113,6 +115,7 @@ class Operator {
   Options options_;
   std::vector<Step> steps_;
   std::size_t next_ = 0;
+  int depth_ = 0;  // steps in work, one inside the wait of the other
   bool started_ = false;
   int passed_ = 0;
   int failed_ = 0;

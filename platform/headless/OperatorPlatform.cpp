@@ -181,8 +181,13 @@ void OperatorPlatform::Advance(std::int64_t milliseconds) {
   if (elapsedMs_ < end) moveTo(end);
 }
 
+void OperatorPlatform::SetRandom(std::vector<double> values) {
+  random_ = std::move(values);
+  nextRandom_ = 0;
+}
+
 double OperatorPlatform::Random() {
-  if (random_) return *random_;
+  if (!random_.empty()) return random_[nextRandom_++ % random_.size()];
   // xorshift; good enough for pauses and marks
   randomState_ ^= randomState_ << 13U;
   randomState_ ^= randomState_ >> 7U;

@@ -41,7 +41,8 @@ class OperatorPlatform final : public Platform, public DesktopObserver {
   void SetNow(const DateTime& now);
   // Moves the clock on and fires each running timer as it falls due.
   void Advance(std::int64_t milliseconds);
-  void SetRandom(double value) { random_ = value; }
+  // The next random numbers, one after the other and from the first again.
+  void SetRandom(std::vector<double> values);
   [[nodiscard]] int BoxCount() const { return boxCount_; }
   [[nodiscard]] const std::string& LastBoxText() const { return lastBoxText_; }
   [[nodiscard]] const std::string& LastBoxTitle() const { return lastBoxTitle_; }
@@ -90,7 +91,8 @@ class OperatorPlatform final : public Platform, public DesktopObserver {
   std::int64_t elapsedMs_ = 0;           // all advances together; timers live on this scale
   std::map<Timer*, std::int64_t> dueMs_;
   std::vector<Timer*> timerOrder_;       // in the order of their start
-  std::optional<double> random_;
+  std::vector<double> random_;
+  std::size_t nextRandom_ = 0;
   std::uint64_t randomState_;
   int boxCount_ = 0;
   std::string lastBoxText_;

@@ -79,13 +79,17 @@ void Operator::DoAdvance(const Step& step) {
 }
 
 void Operator::DoRandom(const Step& step) {
-  NeedArguments(step, 1, 1);
-  const std::string& text = ArgumentAt(step, 0);
-  double value = 0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec != std::errc() || result.ptr != text.data() + text.size() || value < 0 || value > 1)
-    Fault(Concat("no number between 0 and 1: ", text));
-  platform_.SetRandom(value);
+  ArgumentAt(step, 0);
+  std::vector<double> values;
+  for (const Argument& argument : step.arguments) {
+    const std::string& text = argument.text;
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool whole = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    if (!whole || !(value >= 0 && value <= 1)) Fault(Concat("no number between 0 and 1: ", text));
+    values.push_back(value);
+  }
+  platform_.SetRandom(std::move(values));
 }
 
 void Operator::DoStart(const Step& step) {
@@ -141,11 +145,11 @@ void Operator::DoChoose(const Step& step) {
   NeedArguments(step, 2, 2);
   auto& control = UsableAs<ChoiceControl>(step);
   int index = 0;
-  if (step.arguments[1].quoted) {
+  if (IsPosition(step, 1)) {
+    index = NumberAt(step, 1);
+  } else {
     const std::string& text = ArgumentAt(step, 1);
     while (index < control.Count() && control.Items()[static_cast<std::size_t>(index)] != text) ++index;
-  } else {
-    index = NumberAt(step, 1);
   }
   if (index < 0 || index >= control.Count()) Fault(Concat("unknown entry: ", ArgumentAt(step, 1)));
   if (TakeFocus(control)) driver_.Choose(control, index);

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "platform/ChoiceControls.h"
+#include "platform/Desktop.h"
 #include "platform/ListView.h"
 #include "platform/MonthView.h"
 #include "platform/Screen.h"
@@ -31,6 +32,13 @@ std::string Joined(const std::vector<std::string>& texts) {
     result += texts[i];
   }
   return result;
+}
+
+// True for the one control that the keyboard goes to: of the screen in front, where it has the focus or, before the
+// first step on it, will begin.
+bool HoldsFocus(const Control& control) {
+  const Screen* active = control.Owner().Owner().ActiveScreen();
+  return active == &control.Owner() && active->FocusedControl() == &control;
 }
 
 bool IsTextBox(const Control& control) {
@@ -127,7 +135,7 @@ std::optional<std::string> PropertyOf(const Control& control, std::string_view p
   if (parsed.name == "tooltip") return control.ToolTip();
   if (parsed.name == "color") return ColourText(control.ForeColour());
   if (parsed.name == "backcolor") return ColourText(control.BackColour());
-  if (parsed.name == "focus") return Truth(control.HasFocus());
+  if (parsed.name == "focus") return Truth(HoldsFocus(control));
   return KindPropertyOf(control, parsed);
 }
 

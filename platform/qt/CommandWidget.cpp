@@ -10,7 +10,7 @@
 namespace kontorwerk {
 namespace {
 
-constexpr int kButtonPad = 7;
+constexpr int kButtonPad = 6;
 constexpr int kButtonColumns = 12;  // characters that a button has room for at least
 constexpr int kPad = 12;
 constexpr int kGap = 12;
@@ -56,7 +56,7 @@ QSize CommandWidget::PanelSize(Look look) const {
 QSize CommandWidget::sizeHint() const {
   const Look look = CurrentLook();
   if (look != Look::Button) return PanelSize(look);
-  const int height = fontMetrics().height() + 2 * kButtonPad;
+  const int height = std::max(fontMetrics().height(), iconSize().height()) + 2 * kButtonPad;
   const bool narrow = text().isEmpty() || property("compact").toBool();
   return QPushButton::sizeHint().expandedTo({narrow ? height : fontMetrics().averageCharWidth() * kButtonColumns, height});
 }

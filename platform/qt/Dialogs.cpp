@@ -45,6 +45,7 @@ class BoxDialog final : public QDialog {
     upper->addWidget(MakeText(), 1);
     layout->addLayout(upper);
     auto* row = new QHBoxLayout;
+    row->setSpacing(8);
     row->addStretch(1);
     AddButtons(*row);
     layout->addLayout(row);

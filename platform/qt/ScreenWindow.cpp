@@ -28,6 +28,7 @@ namespace kontorwerk {
 namespace {
 
 constexpr QSize kMemoryScreen{1920, 1080};
+constexpr int kTitleBar = 32;
 constexpr int kNotch = 120;  // eighths of a degree
 
 std::string NameOf(const QString& name) { return FromQt(name).value_or(std::string()); }
@@ -151,6 +152,7 @@ void ScreenWindow::PlaceOnScreen() {
   QRect room = window_->screen()->availableGeometry();
   // Windows that are drawn in memory alone have a screen of a size that means nothing.
   if (QGuiApplication::platformName() == QLatin1String("offscreen")) room.setSize(kMemoryScreen);
+  room.setHeight(room.height() - kTitleBar);
   const QSize wanted = window_->size().expandedTo(window_->sizeHint()).boundedTo(room.size());
   window_->resize(wanted);
   const QWidget* before = QApplication::activeWindow();

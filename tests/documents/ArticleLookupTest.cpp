@@ -4,6 +4,7 @@
 #include "stock/ArticleRecords.h"
 #include "stock/StockRecords.h"
 #include "tests/documents/DocumentFolder.h"
+#include "tests/documents/GridReceiver.h"
 
 namespace kontorwerk {
 namespace {

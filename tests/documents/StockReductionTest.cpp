@@ -139,7 +139,7 @@ TEST_F(Stock, FailedReadLeavesTheTableAsItWas) {
   EXPECT_EQ(Rows(), Texts{StockRow("#01001", "10")});
 }
 
-TEST_F(Stock, ManyRowsMeetAManyItems) {
+TEST_F(Stock, ManyRowsMeetManyItems) {
   // Row by row this would compare 170 million times and rewrite the table 1,700 times.
   Texts lines;
   std::vector<PositionRow> rows;

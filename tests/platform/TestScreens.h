@@ -38,6 +38,7 @@ class TestScreen : public Screen {
   OptionButton Netto{*this, "Netto"};
   OptionButton Brutto{*this, "Brutto"};
   ComboBox Combo{*this, "Combo"};
+  ComboBox Locked{*this, "Locked"};
   ListView List{*this, "List"};
   MonthView Calendar{*this, "Calendar"};
   StatusBar StatusBar1{*this, "StatusBar1"};
@@ -47,6 +48,8 @@ class TestScreen : public Screen {
   ControlArray<TextBox> LGNr{*this, "LGNr"};
 
   std::vector<std::string> steps;
+
+  void OnWheel(int notches) override { Bar.SetValue(Bar.Value() - 3 * notches); }
 
  protected:
   void OnLoad() override { steps.push_back("load"); }

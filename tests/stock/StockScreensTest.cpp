@@ -163,7 +163,7 @@ TEST_F(StockDesk, TheTwoModesOfTheSearchExcludeEachOther) {
   EXPECT_FALSE(Search().GoodsReceiptMode);
   EXPECT_TRUE(Search().StockEditMode);
   Search().Unload();
-  EXPECT_TRUE(Search().StockEditMode);  // a later save of the edit screen still reads it
+  EXPECT_TRUE(Search().StockEditMode);  // the way back from the edit screen opens it as it was
 }
 
 TEST_F(StockDesk, ASaveAfterTheSearchHasClosedStillWrites) {
