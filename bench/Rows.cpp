@@ -101,8 +101,13 @@ Partner MakePartner(long index, long rows, const PartnerKind& kind) {
     set(partner::kHomepage, Concat("www.firma-", Digits(index, 6, 4), ".de"));
     set(partner::ContactName(1), PersonName(index + 1));
     set(partner::ContactDirectLine(1), Digits(index, 11, 3));
+    set(partner::ContactEmail(1), Concat("einkauf", std::to_string(index), "@firma-", Digits(index, 6, 4), ".de"));
+    set(partner::ContactName(2), PersonName(index + 2));
+    set(partner::ContactDirectLine(2), Digits(index, 13, 3));
   }
-  if (index % 4 == 0) set(partner::kFreitext, "Liefert nur vormittags an\r\nRückruf erbeten, Skonto 2 % vereinbart"_t);
+  set(partner::kVorwahl2, Concat("0", Digits(index, 8, 4)));
+  set(partner::kFax, Digits(index, 14, 6));
+  if (index % 2 == 0) set(partner::kFreitext, "Liefert nur vormittags an\r\nRückruf erbeten, Skonto 2 % vereinbart"_t);
   set(partner::kAnrede, index % 3 == 0 ? "Herr" : "Firma");
   partner.Erfassdatum = DayBefore(index, 12, 4000);
   return partner;

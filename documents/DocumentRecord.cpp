@@ -111,8 +111,6 @@ std::string MarkerLine(std::string_view number, std::string_view word, std::stri
 
 }  // namespace
 
-RowLayout LayoutOf(std::string_view line) { return ShapeOf(line).layout; }
-
 DocumentRecord ReadDocument(std::string_view line, DocumentKind kind) {
   const LineFields fields(line);
   const Shape shape = ShapeOf(line);

@@ -35,8 +35,6 @@ struct DocumentRecord {
   std::string Anrede;
 };
 
-[[nodiscard]] RowLayout LayoutOf(std::string_view line);
-
 // The document of a line of the kind's table. Rows have no closing apostrophe. A line with fewer fields than its count
 // says has as many rows as it holds fields for, and empty amounts; a count that is no number counts as 0.
 [[nodiscard]] DocumentRecord ReadDocument(std::string_view line, DocumentKind kind);

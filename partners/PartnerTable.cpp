@@ -4,7 +4,7 @@
 #include <charconv>
 #include <utility>
 
-#include "partners/LineSearch.h"
+#include "store/CaseBlindPattern.h"
 #include "store/Numbers.h"
 #include "store/RecordLine.h"
 #include "store/Text.h"
@@ -109,7 +109,8 @@ std::string RemovePartner(RecordStore& store, const PartnerKind& kind, std::stri
 
 std::vector<PartnerHit> FindPartners(std::string_view tableText, std::string_view searchText) {
   std::vector<PartnerHit> hits;
-  ForEachLineWith(tableText, searchText, [&hits](std::string_view line) { hits.push_back(HitOf(line)); });
+  ForEachRowWith(tableText, CaseBlindPattern(searchText),
+                 [&hits](std::string_view line) { hits.push_back(HitOf(line)); });
   return hits;
 }
 

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <optional>
 
-#include "stock/CaseBlindPattern.h"
 #include "stock/StockRecords.h"
+#include "store/CaseBlindPattern.h"
 #include "store/Numbers.h"
 #include "store/RecordLine.h"
 #include "store/RecordStore.h"

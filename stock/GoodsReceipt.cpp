@@ -9,7 +9,8 @@ GoodsReceipt::GoodsReceipt(Context& context, WareneingangStück& quantityDialog,
     : context_(context), quantityDialog_(quantityDialog), serialDialog_(serialDialog), editor_(editor) {}
 
 void GoodsReceipt::Run(std::string_view articleNumber, std::string_view stockNumber, StockCaller& caller) {
-  for (ReceiptDialog* dialog : {static_cast<ReceiptDialog*>(&quantityDialog_), static_cast<ReceiptDialog*>(&serialDialog_)}) {
+  for (ReceiptDialog* dialog :
+       {static_cast<ReceiptDialog*>(&quantityDialog_), static_cast<ReceiptDialog*>(&serialDialog_)}) {
     if (!dialog->Visible()) continue;
     dialog->BringToFront();
     return;

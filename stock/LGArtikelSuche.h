@@ -1,5 +1,5 @@
-// "Lagerartikel suchen / bearbeiten": finds stock items and the stock-kept articles of the master, and hands the chosen one
-// to a goods receipt, to the edit screen or to a document, as it was opened for.
+// "Lagerartikel suchen / bearbeiten": finds stock items and the stock-kept articles of the master, and hands the chosen
+// one to a goods receipt, to the edit screen or to a document, as it was opened for.
 #pragma once
 
 #include <string>

@@ -110,9 +110,13 @@ bool LGArtikelbearbeiten::LeavingAllowed() {
   if (!Changed) return true;
   switch (context_.platform.Box("Lagerartikel wurde geändert. Ohne speichern beenden?"_t, "Ohne speichern beenden",
                                 Buttons::YesNoCancel)) {
-    case Answer::Yes: Changed = false; return true;
-    case Answer::No: return Save();
-    default: return false;
+    case Answer::Yes:
+      Changed = false;
+      return true;
+    case Answer::No:
+      return Save();
+    default:
+      return false;
   }
 }
 

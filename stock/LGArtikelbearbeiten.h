@@ -46,8 +46,8 @@ class LGArtikelbearbeiten final : public Screen, public StockMask {
 
   void WireFields();
   void WirePrices();
-  // What the shown record was opened for; decides how a save writes it and with which phrase. Kept by the screen itself,
-  // since the search may be reopened for other work while a receipt still waits for its save.
+  // What the shown record was opened for; decides how a save writes it and with which phrase. Kept by the screen
+  // itself, since the search may be reopened for other work while a receipt still waits for its save.
   enum class Purpose { None, Edit, Receipt };
 
   void Open(StockCaller& caller, const StockRecord& record, Purpose purpose);
@@ -55,7 +55,6 @@ class LGArtikelbearbeiten final : public Screen, public StockMask {
   void NoteMinimumChange();
   void ComputeGross();
   void ComputeNet();
-  [[nodiscard]] std::string_view Rate() const;
 
   void End();
   void BackToSearch();

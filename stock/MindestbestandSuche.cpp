@@ -64,7 +64,8 @@ void MindestbestandSuche::FillList(const StockQuery& query, std::string_view ean
   const std::string stock = context_.store.ReadTableText("Lagerartikeldb.dbf");
   std::vector<ListRow> rows;
   for (const Shortfall& shortfall : FindShortfalls(stock)) {
-    const bool wanted = ean.empty() ? MatchesQuery(shortfall.row, query) : RecordField(shortfall.row, kStockEANNr) == ean;
+    const bool wanted =
+        ean.empty() ? MatchesQuery(shortfall.row, query) : RecordField(shortfall.row, kStockEANNr) == ean;
     if (wanted) rows.push_back(ShortfallListRow(shortfall));
   }
   Suchergebnis.SetRows(std::move(rows));
@@ -79,7 +80,8 @@ std::string MindestbestandSuche::ChosenStockNumber() const {
 std::string_view MindestbestandSuche::ChosenRow(std::string_view stock) const {
   if (Suchergebnis.Selected() == 0) return {};
   const std::string number = ChosenStockNumber();
-  return number.empty() ? FirstRowOfArticle(stock, Suchergebnis.SelectedCell(kListArticle)) : FindStockRow(stock, number);
+  return number.empty() ? FirstRowOfArticle(stock, Suchergebnis.SelectedCell(kListArticle))
+                        : FindStockRow(stock, number);
 }
 
 void MindestbestandSuche::ShowRow() {

@@ -1,5 +1,5 @@
-// "Bestandsanzeige": everything that lies below its minimum quantity, with the way to its receipt and to its edit screen.
-// The list fills itself when the screen opens; the search narrows it. Single items of an article share one row.
+// "Bestandsanzeige": everything that lies below its minimum quantity, with the way to its receipt and to its edit
+// screen. The list fills itself when the screen opens; the search narrows it. Single items of an article share one row.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// The fields of a stock item as three screens show them: the edit screen and the two searches. What a screen does when one
-// of them changes or is left is its own business.
+// The fields of a stock item as three screens show them: the edit screen and the two searches. What a screen does when
+// one of them changes or is left is its own business.
 #pragma once
 
 #include <vector>

@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "stock/CaseBlindPattern.h"
+#include "store/CaseBlindPattern.h"
 #include "store/Numbers.h"
 #include "store/RecordLine.h"
 

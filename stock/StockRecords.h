@@ -14,8 +14,8 @@ namespace kontorwerk {
 
 // Columns of a stock record, counted as RecordField counts. Columns 3 and 12 to 29 are copies of the article's.
 enum StockColumn : int {
-  kStockLagerNr = 1,       // "#" and five digits
-  kStockArtNr = 2,         // article number, 8 characters in upper case
+  kStockLagerNr = 1,  // "#" and five digits
+  kStockArtNr = 2,    // article number, 8 characters in upper case
   kStockBezeichnung = 3,
   kStockLagerbestand = 4,  // quantity; 0 or negative after sales
   kStockMindestMenge = 5,  // number or empty
@@ -25,7 +25,7 @@ enum StockColumn : int {
   kStockEANNr = 9,
   kStockSerNr = 10,
   kStockIMEINr = 11,
-  kStockB1 = 12,           // four description lines, one line of a document each
+  kStockB1 = 12,  // four description lines, one line of a document each
   kStockB2 = 13,
   kStockB3 = 14,
   kStockB4 = 15,
@@ -43,13 +43,13 @@ enum StockColumn : int {
   kStockEK1 = 27,
   kStockEK2 = 28,
   kStockEK3 = 29,
-  kStockNotizen = 30,      // line breaks as marks
-  kStockAktEK = 31,        // net purchase price of the last receipt
-  kStockVK = 32,           // net sales price
-  kStockBrutto = 33,       // gross sales price
-  kStockMWST2 = 34,        // second VAT rate: "1" or "0"
-  kStockEinzel = 35,       // single item: "1" or "0", "Wahr" or "Falsch" after a change of the article
-  kStockStatus = 36,       // the last event only: one phrase with its date
+  kStockNotizen = 30,  // line breaks as marks
+  kStockAktEK = 31,    // net purchase price of the last receipt
+  kStockVK = 32,       // net sales price
+  kStockBrutto = 33,   // gross sales price
+  kStockMWST2 = 34,    // second VAT rate: "1" or "0"
+  kStockEinzel = 35,   // single item: "1" or "0", "Wahr" or "Falsch" after a change of the article
+  kStockStatus = 36,   // the last event only: one phrase with its date
 };
 inline constexpr int kStockColumnCount = 36;
 

@@ -15,10 +15,10 @@ StockScreens::StockScreens(Context& context, ControlCentre& controlCentre)
       stockSearch_(context, controlCentre, receipt_, editor_, articleScreen_),
       minimumSearch_(context, controlCentre, receipt_, editor_, articleScreen_) {
   articleScreen_.SetGoodsReceiptSearch(&stockSearch_);
-  for (Screen* screen : {static_cast<Screen*>(&articleScreen_), static_cast<Screen*>(&articleSearch_),
-                         static_cast<Screen*>(&quantityDialog_), static_cast<Screen*>(&serialDialog_),
-                         static_cast<Screen*>(&editor_), static_cast<Screen*>(&stockSearch_),
-                         static_cast<Screen*>(&minimumSearch_)})
+  for (Screen* screen :
+       {static_cast<Screen*>(&articleScreen_), static_cast<Screen*>(&articleSearch_),
+        static_cast<Screen*>(&quantityDialog_), static_cast<Screen*>(&serialDialog_), static_cast<Screen*>(&editor_),
+        static_cast<Screen*>(&stockSearch_), static_cast<Screen*>(&minimumSearch_)})
     context.desktop.Add(*screen);
 }
 

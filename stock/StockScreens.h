@@ -26,7 +26,9 @@ class StockScreens {
   StockScreens& operator=(const StockScreens&) = delete;
 
   // How a supplier field of an article finds its supplier; without it the choice does nothing.
-  void SetSupplierChooser(Artikelanlegen::SupplierChooser chooseSupplier) { chooseSupplier_ = std::move(chooseSupplier); }
+  void SetSupplierChooser(Artikelanlegen::SupplierChooser chooseSupplier) {
+    chooseSupplier_ = std::move(chooseSupplier);
+  }
   // The document editor, which must outlive these screens or be set to null before it goes.
   void SetPositionReceiver(PositionReceiver* receiver);
 

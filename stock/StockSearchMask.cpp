@@ -38,9 +38,7 @@ void StockSearchMask::SetPurchasePricesVisible(bool visible) {
   for (TextBox* price : {&EK1, &EK2, &EK3}) price->SetVisible(visible);
 }
 
-StockQuery StockSearchMask::Query() const {
-  return {Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text(), LagerNr.Text()};
-}
+StockQuery StockSearchMask::Query() const { return {Kat.Text(), ArtikelNr.Text(), Bezeichnung.Text(), LagerNr.Text()}; }
 
 void StockSearchMask::SearchOnEnter(std::function<void()> search) {
   for (TextBox* field : SearchFields()) {

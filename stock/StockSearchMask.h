@@ -1,5 +1,6 @@
-// The mask of the two stock searches. Its search fields show the chosen record as well: while a record is shown, the first
-// letter typed into one of them empties all the others, so that what stands in the fields is always what is looked for.
+// The mask of the two stock searches. Its search fields show the chosen record as well: while a record is shown, the
+// first letter typed into one of them empties all the others, so that what stands in the fields is always what is
+// looked for.
 #pragma once
 
 #include <functional>

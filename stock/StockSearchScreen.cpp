@@ -10,8 +10,7 @@
 namespace kontorwerk {
 
 StockSearchScreen::StockSearchScreen(Context& context, ControlCentre& centre, GoodsReceipt& receipt,
-                                     LGArtikelbearbeiten& editor, Artikelanlegen& articleScreen,
-                                     std::string_view name)
+                                     LGArtikelbearbeiten& editor, Artikelanlegen& articleScreen, std::string_view name)
     : Screen(context.desktop, name),
       StockSearchMask(static_cast<Screen&>(*this)),
       Command5(*this, "Command5"),
@@ -89,7 +88,8 @@ void StockSearchScreen::DeleteItem() {
         "löschen wollen, dann löschen Sie diesen im Artikel-Center!"_t);
     return;
   }
-  if (!context_.platform.Ask(Concat("LagerArtikel ", number, " wirklich löschen?"_t), "LagerArtikel wirklich löschen?"_t))
+  if (!context_.platform.Ask(Concat("LagerArtikel ", number, " wirklich löschen?"_t),
+                             "LagerArtikel wirklich löschen?"_t))
     return;
   if (!RemoveStockRecord(context_.store, number)) return;
   RemoveChosenRow();

@@ -100,9 +100,13 @@ std::string DateText(const Date& date) {
 std::string TimeText(const TimeOfDay& time) { return Concat(Digits(time.hour, 2), ":", Digits(time.minute, 2)); }
 
 std::optional<Date> ParseDate(std::string_view text) {
-  const std::vector<std::string_view> parts = Split(Trim(text), ".");
-  if (parts.size() != 3) return std::nullopt;
-  const Date date{FullYear(parts[2]), PlainNumber(parts[1], 1, 2), PlainNumber(parts[0], 1, 2)};
+  // Without a list of parts: the reminders read a date or two of every open document.
+  const std::string_view trimmed = Trim(text);
+  const std::size_t first = trimmed.find('.');
+  const std::size_t second = first == std::string_view::npos ? first : trimmed.find('.', first + 1);
+  if (second == std::string_view::npos) return std::nullopt;
+  const Date date{FullYear(trimmed.substr(second + 1)), PlainNumber(trimmed.substr(first + 1, second - first - 1), 1, 2),
+                  PlainNumber(trimmed.substr(0, first), 1, 2)};
   if (date.year < 100 || date.day < 1 || date.day > DaysInMonth(date.year, date.month)) return std::nullopt;
   return date;
 }

@@ -170,7 +170,10 @@ Control& Operator::UsableControl(const Step& step) {
   return control;
 }
 
-bool Operator::TakeFocus(Control& control) { return driver_.MoveFocus(control); }
+bool Operator::TakeFocus(Control& control) {
+  // A handler on the way may have disabled or hidden the control, or closed its screen.
+  return driver_.MoveFocus(control) && control.Usable();
+}
 
 int Operator::RowAt(const Step& step, std::size_t index, const ListView& list) {
   const std::string& text = ArgumentAt(step, index);

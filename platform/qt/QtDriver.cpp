@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QTabBar>
 #include <QWheelEvent>
+#include <cstdio>
 
 #include "platform/ChoiceControls.h"
 #include "platform/ListView.h"
@@ -50,6 +51,12 @@ void DoubleClickAt(QWidget& widget, const QPoint& point) {
   ClickAt(widget, point);
   if (guard) SendMouse(widget, QEvent::MouseButtonDblClick, point);
   if (guard) SendMouse(widget, QEvent::MouseButtonRelease, point);
+}
+
+// Keeps what the drawing in memory cannot do, and says with each window, out of the error output.
+void FilterMessages(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
+  std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
 }
 
 class QtDriver final : public Driver {
@@ -131,7 +138,7 @@ void QtDriver::Click(Control& control) {
       break;
     default: break;
   }
-  fprintf(stderr,"DIRECT Click\n"), direct_.Click(control);
+  direct_.Click(control);
 }
 
 void QtDriver::DoubleClick(Control& control, int row) {
@@ -142,7 +149,7 @@ void QtDriver::DoubleClick(Control& control, int row) {
   }
   if (binding != nullptr && (control.Kind() == ControlKind::Label || control.Kind() == ControlKind::Image))
     return SendMouse(*binding->Widget(), QEvent::MouseButtonDblClick, binding->Widget()->rect().center());
-  fprintf(stderr,"DIRECT DoubleClick\n"), direct_.DoubleClick(control, row);
+  direct_.DoubleClick(control, row);
 }
 
 void QtDriver::SetText(Control& control, std::string_view text) {
@@ -167,12 +174,12 @@ void QtDriver::SetText(Control& control, std::string_view text) {
     }
   }
   // What a widget cannot hold exactly, or already holds, is put in as typed all the same.
-  if (!changed || binding->LastTyped() != text) fprintf(stderr,"DIRECT SetText\n"), direct_.SetText(control, text);
+  if (!changed || binding->LastTyped() != text) direct_.SetText(control, text);
 }
 
 void QtDriver::Choose(ChoiceControl& control, int index) {
   Binding* binding = Reach(control);
-  if (binding == nullptr) return fprintf(stderr,"DIRECT Choose\n"), direct_.Choose(control, index);
+  if (binding == nullptr) return direct_.Choose(control, index);
   if (auto* combo = qobject_cast<QComboBox*>(binding->Widget()); combo != nullptr && index < combo->count()) {
     combo->setCurrentIndex(index);
     emit combo->activated(index);
@@ -180,7 +187,7 @@ void QtDriver::Choose(ChoiceControl& control, int index) {
     list->scrollToItem(list->item(index));
     ClickAt(*list->viewport(), list->visualItemRect(list->item(index)).center());
   } else {
-    fprintf(stderr,"DIRECT Choose\n"), direct_.Choose(control, index);
+    direct_.Choose(control, index);
   }
 }
 
@@ -188,33 +195,33 @@ void QtDriver::Tick(ListView& list, int row, bool ticked) {
   ListBinding* binding = ReachList(list);
   const QPoint point = binding == nullptr ? QPoint() : binding->View().TickPoint(row);
   // A box that is in the wanted state already is still told so, as if it were set anew.
-  if (point.isNull() || list.Ticked(row) == ticked) return fprintf(stderr,"DIRECT Tick\n"), direct_.Tick(list, row, ticked);
+  if (point.isNull() || list.Ticked(row) == ticked) return direct_.Tick(list, row, ticked);
   ClickAt(*binding->View().viewport(), point);
 }
 
 void QtDriver::Select(ListView& list, int row) {
   ListBinding* binding = ReachList(list);
   const QPoint point = binding == nullptr ? QPoint() : binding->View().RowPoint(row);
-  if (point.isNull()) return fprintf(stderr,"DIRECT Select\n"), direct_.Select(list, row);
+  if (point.isNull()) return direct_.Select(list, row);
   ClickAt(*binding->View().viewport(), point);
 }
 
 void QtDriver::Sort(ListView& list, int column) {
   ListBinding* binding = ReachList(list);
   const QPoint point = binding == nullptr ? QPoint() : binding->HeaderPoint(column);
-  if (point.isNull()) return fprintf(stderr,"DIRECT Sort\n"), direct_.Sort(list, column);
+  if (point.isNull()) return direct_.Sort(list, column);
   ClickAt(*binding->View().header()->viewport(), point);
 }
 
 void QtDriver::PickDate(MonthView& calendar, const Date& date) {
   Binding* binding = Reach(calendar);
-  if (binding == nullptr) return fprintf(stderr,"DIRECT PickDate\n"), direct_.PickDate(calendar, date);
+  if (binding == nullptr) return direct_.PickDate(calendar, date);
   emit static_cast<QCalendarWidget*>(binding->Widget())->clicked(QDate(date.year, date.month, date.day));
 }
 
 void QtDriver::PressKey(Control& control, const Key& key) {
   Binding* binding = Reach(control);
-  if (binding == nullptr || binding->FocusWidget() == nullptr) return fprintf(stderr,"DIRECT PressKey\n"), direct_.PressKey(control, key);
+  if (binding == nullptr || binding->FocusWidget() == nullptr) return direct_.PressKey(control, key);
   QWidget* widget = binding->FocusWidget();
   while (widget->focusProxy() != nullptr) widget = widget->focusProxy();
   const QtKey qt = ToQtKey(key);
@@ -228,7 +235,7 @@ void QtDriver::PressKey(Control& control, const Key& key) {
 void QtDriver::Wheel(Screen& screen, int notches) {
   Settle();
   ScreenWindow* window = windows_.WindowOf(screen);
-  if (window == nullptr || !window->HasRows()) return fprintf(stderr,"DIRECT Wheel\n"), direct_.Wheel(screen, notches);
+  if (window == nullptr || !window->HasRows()) return direct_.Wheel(screen, notches);
   const QPointF point(1, 1);
   QWheelEvent event(point, window->Window().mapToGlobal(point), {}, QPoint(0, notches * kNotch), Qt::NoButton,
                     Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -240,7 +247,7 @@ void QtDriver::CloseScreen(Screen& screen) {
   if (ScreenWindow* window = windows_.WindowOf(screen))
     window->Window().close();
   else
-    fprintf(stderr,"DIRECT CloseScreen\n"), direct_.CloseScreen(screen);
+    direct_.CloseScreen(screen);
 }
 
 bool QtDriver::Shot(Screen& screen, const std::string& file) {
@@ -257,6 +264,7 @@ std::unique_ptr<Driver> MakeQtDriver(int& argc, char** argv, Desktop& desktop) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && !qEnvironmentVariableIsSet("DISPLAY") &&
       !qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(FilterMessages);
   return std::make_unique<QtDriver>(argc, argv, desktop);
 }
 

@@ -329,7 +329,10 @@ bool ScreenWindow::SendKey(Control& control, Key key) {
     if (binding == nullptr || binding->Widget() == nullptr || binding->Widget()->isVisibleTo(window_.get())) break;
     next = screen_.NextInTabOrder(*next, key.shift);
   }
-  if (next != nullptr) Take(*next);
+  if (next == nullptr || !Take(*next)) return true;
+  // What is reached by Tab is ready to be typed over.
+  const Binding* reached = BindingOf(*next);
+  if (auto* field = reached == nullptr ? nullptr : qobject_cast<QLineEdit*>(reached->Widget())) field->selectAll();
   return true;
 }
 

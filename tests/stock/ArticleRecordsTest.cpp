@@ -5,7 +5,6 @@
 
 #include <random>
 
-#include "stock/CaseBlindPattern.h"
 #include "stock/StockRecords.h"
 #include "store/RecordLine.h"
 #include "store/RecordStore.h"
@@ -284,16 +283,6 @@ TEST(StockRowOfArticle, WritesTheItemKindAsATruthWord) {
   EXPECT_EQ(RecordField(row, kStockEinzel), "Wahr");
   EXPECT_EQ(RecordField(row, kStockMWST2), "1");
   EXPECT_TRUE(IsSingleItem(row));
-}
-
-TEST(CaseBlindPattern, FindsFromAPlaceOn) {
-  const CaseBlindPattern pattern("aB");
-  EXPECT_EQ(pattern.FindIn("xxAbab"), 2U);
-  EXPECT_EQ(pattern.FindIn("xxAbab", 3), 4U);
-  EXPECT_EQ(pattern.FindIn("xxAbab", 5), CaseBlindPattern::kNotFound);
-  EXPECT_EQ(pattern.FindIn("a"), CaseBlindPattern::kNotFound);
-  EXPECT_EQ(CaseBlindPattern("").FindIn("", 0), 0U);
-  EXPECT_EQ(CaseBlindPattern("").FindIn("ab", 3), CaseBlindPattern::kNotFound);
 }
 
 }  // namespace

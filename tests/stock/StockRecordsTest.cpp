@@ -44,8 +44,9 @@ std::vector<std::string> Numbers(const std::vector<std::string_view>& rows) {
 std::vector<std::string> Shortfalls(const std::string& table) {
   std::vector<std::string> texts;
   for (const Shortfall& shortfall : FindShortfalls(table))
-    texts.push_back(shortfall.single ? Concat(RecordField(shortfall.row, kStockArtNr), " ", std::to_string(shortfall.pieces))
-                                     : std::string(RecordField(shortfall.row, kStockLagerNr)));
+    texts.push_back(shortfall.single
+                        ? Concat(RecordField(shortfall.row, kStockArtNr), " ", std::to_string(shortfall.pieces))
+                        : std::string(RecordField(shortfall.row, kStockLagerNr)));
   return texts;
 }
 
@@ -141,8 +142,8 @@ TEST_F(StockTable, ARemovedRecordLeavesTheOthers) {
 }
 
 TEST_F(StockTable, TheMinimumIsRewrittenForEveryRowOfTheArticle) {
-  Put(Row({.number = "#1", .minimum = "1", .flag = "Wahr"}) + Row({.number = "#2", .article = "HAN00001", .minimum = "7"}) +
-      Row({.number = "#3", .flag = "Falsch"}));
+  Put(Row({.number = "#1", .minimum = "1", .flag = "Wahr"}) +
+      Row({.number = "#2", .article = "HAN00001", .minimum = "7"}) + Row({.number = "#3", .flag = "Falsch"}));
   ASSERT_TRUE(RewriteMinimum(store_, "NET00001", "3", "9", "Letzte Änderung am 01.01.2026"_t));
   const std::string content = Content();
   std::vector<std::string_view> rows;
@@ -251,7 +252,8 @@ TEST(StockFromArticle, CopiesBothWaysButKeepsTheItemsOwnColumnsEmpty) {
   article.ean = "400";
   const StockRecord record = StockFromArticle(article);
   EXPECT_EQ(record.Row(),
-            "'','NET00001','Kabel','','','','','','400','','','1','2','3','4','a','b','c','d','e','s1','s2','s3','o1','o2','o3',"
+            "'','NET00001','Kabel','','','','','','400','','','1','2','3','4','a','b','c','d','e','s1','s2','s3','o1','"
+            "o2','o3',"
             "'1,00','2,00','3,00','eins*__*zwei','','4,00','9,00','1','0','");
   EXPECT_EQ(ArticleLine(ArticleFromStock(record)), ArticleLine(article));
 }

@@ -1,5 +1,5 @@
-// What scripts cannot see of the stock screens: sounds, the document's rows, a failing disk, the end of the program inside
-// a wait, and how often a list is filled.
+// What scripts cannot see of the stock screens: sounds, the document's rows, a failing disk, the end of the program
+// inside a wait, and how often a list is filled.
 #include <gtest/gtest.h>
 
 #include <string>

@@ -1,6 +1,8 @@
-#include "stock/CaseBlindPattern.h"
+// The scan looks for one character of the pattern only, the one that German records hold least.
+#include "store/CaseBlindPattern.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "store/Text.h"
@@ -9,14 +11,19 @@ namespace kontorwerk {
 
 namespace {
 
+using CaseTable = std::array<char, 256>;
+
 // The upper case of every byte, taken from the one rule for letters.
-std::array<unsigned char, 256> UpperCaseTable() {
-  std::string all(256, '\0');
-  for (std::size_t i = 0; i < all.size(); ++i) all[i] = static_cast<char>(i);
-  const std::string upper = UCase(all);
-  std::array<unsigned char, 256> table{};
-  for (std::size_t i = 0; i < table.size(); ++i) table[i] = static_cast<unsigned char>(upper[i]);
-  return table;
+const CaseTable& UpperCase() {
+  static const CaseTable kTable = [] {
+    std::string all(256, '\0');
+    for (std::size_t i = 0; i < all.size(); ++i) all[i] = static_cast<char>(i);
+    const std::string upper = UCase(all);
+    CaseTable table{};
+    std::copy(upper.begin(), upper.end(), table.begin());
+    return table;
+  }();
+  return kTable;
 }
 
 // What German records are full of, the commonest first; anything else is rarer.
@@ -35,7 +42,7 @@ std::size_t PlaceIn(std::string_view block, char c) {
 
 }  // namespace
 
-CaseBlindPattern::CaseBlindPattern(std::string_view pattern) : pattern_(UCase(pattern)), upper_(UpperCaseTable()) {
+CaseBlindPattern::CaseBlindPattern(std::string_view pattern) : pattern_(UCase(pattern)) {
   if (pattern_.empty()) return;
   for (std::size_t i = 1; i < pattern_.size(); ++i)
     if (Rarity(pattern_[i]) > Rarity(pattern_[anchor_])) anchor_ = i;
@@ -44,8 +51,9 @@ CaseBlindPattern::CaseBlindPattern(std::string_view pattern) : pattern_(UCase(pa
 }
 
 bool CaseBlindPattern::MatchesAt(const char* place) const {
+  const CaseTable& upper = UpperCase();
   for (std::size_t i = 0; i < pattern_.size(); ++i)
-    if (upper_[static_cast<unsigned char>(place[i])] != static_cast<unsigned char>(pattern_[i])) return false;
+    if (upper[static_cast<unsigned char>(place[i])] != pattern_[i]) return false;
   return true;
 }
 

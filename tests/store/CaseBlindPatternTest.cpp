@@ -1,5 +1,5 @@
 // The quick search against a plain one, over texts made of few letters so that near misses abound.
-#include "partners/LineSearch.h"
+#include "store/CaseBlindPattern.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 std::vector<std::string> Lines(std::string_view table, std::string_view text) {
   std::vector<std::string> lines;
-  ForEachLineWith(table, text, [&](std::string_view line) { lines.emplace_back(line); });
+  ForEachRowWith(table, CaseBlindPattern(text), [&](std::string_view line) { lines.emplace_back(line); });
   return lines;
 }
 
@@ -24,7 +24,7 @@ std::vector<std::string> PlainSearch(std::string_view table, std::string_view te
   return lines;
 }
 
-TEST(LineSearch, AgreesWithAPlainSearch) {
+TEST(CaseBlindPattern, AgreesWithAPlainSearch) {
   std::mt19937 random(20261115);
   const std::string_view letters = "aAbÄä',\r\n"_t;
   const auto text = [&](std::size_t length) {
@@ -41,11 +41,21 @@ TEST(LineSearch, AgreesWithAPlainSearch) {
   }
 }
 
-TEST(LineSearch, EachLineComesOnce) {
+TEST(CaseBlindPattern, EachLineComesOnce) {
   EXPECT_EQ(Lines("aaa\r\nb\r\nxa", "a"), (std::vector<std::string>{"aaa", "xa"}));
 }
 
-TEST(LineSearch, TextLongerThanTheTableIsNotThere) { EXPECT_TRUE(Lines("ab\r\n", "abcdefghijk").empty()); }
+TEST(CaseBlindPattern, TextLongerThanTheTableIsNotThere) { EXPECT_TRUE(Lines("ab\r\n", "abcdefghijk").empty()); }
+
+TEST(CaseBlindPattern, FindsFromAPlaceOn) {
+  const CaseBlindPattern pattern("aB");
+  EXPECT_EQ(pattern.FindIn("xxAbab"), 2U);
+  EXPECT_EQ(pattern.FindIn("xxAbab", 3), 4U);
+  EXPECT_EQ(pattern.FindIn("xxAbab", 5), CaseBlindPattern::kNotFound);
+  EXPECT_EQ(pattern.FindIn("a"), CaseBlindPattern::kNotFound);
+  EXPECT_EQ(CaseBlindPattern("").FindIn("", 0), 0U);
+  EXPECT_EQ(CaseBlindPattern("").FindIn("ab", 3), CaseBlindPattern::kNotFound);
+}
 
 }  // namespace
 }  // namespace kontorwerk

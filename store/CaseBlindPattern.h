@@ -1,9 +1,11 @@
-// A plain text that is looked for in the bytes of a table without regard to case. Prepared once, it walks a table in
-// one pass and copies nothing, so that a search over a long table costs little more than reading it.
+// A plain text that is looked for in the bytes of a table without regard to case: the search behind every search
+// screen. It looks at the raw rows, separators included. Prepared once, it walks a table in one pass and copies
+// nothing, so that a search over a long table costs little more than reading it.
 #pragma once
 
+#include "store/Text.h"
+
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -26,7 +28,6 @@ class CaseBlindPattern {
   [[nodiscard]] bool MatchesAt(const char* place) const;
 
   std::string pattern_;  // upper case
-  std::array<unsigned char, 256> upper_;
   // The character of the pattern that a table is likely to hold least, in both its cases: the scan looks for it alone.
   std::size_t anchor_ = 0;
   char anchorUpper_ = 0;
@@ -36,21 +37,20 @@ class CaseBlindPattern {
 // Calls `visit(row)` for each row of the table's text that holds the pattern, in order, blank rows left out.
 template <typename Visit>
 void ForEachRowWith(std::string_view text, const CaseBlindPattern& pattern, Visit&& visit) {
-  constexpr std::string_view kRowEnd = "\r\n";
   std::size_t place = 0;
   while (place < text.size()) {
     const std::size_t hit = pattern.FindIn(text, place);
     if (hit == CaseBlindPattern::kNotFound) return;
-    const std::size_t before = hit == 0 ? std::string_view::npos : text.rfind(kRowEnd, hit - 1);
-    const std::size_t begin = before == std::string_view::npos ? 0 : before + kRowEnd.size();
-    const std::size_t end = std::min(text.find(kRowEnd, begin), text.size());
+    const std::size_t before = hit == 0 ? std::string_view::npos : text.rfind(kLineEnd, hit - 1);
+    const std::size_t begin = before == std::string_view::npos ? 0 : before + kLineEnd.size();
+    const std::size_t end = std::min(text.find(kLineEnd, begin), text.size());
     // A pattern with a line end in it may lie across two rows; neither of them holds it.
     if (hit < begin || hit + pattern.Length() > end) {
       place = hit + 1;
       continue;
     }
     if (end > begin) visit(text.substr(begin, end - begin));
-    place = end + kRowEnd.size();
+    place = end + kLineEnd.size();
   }
 }
 
