@@ -68,14 +68,12 @@ void Einstellungen::OnLoad() {
     if (TextBox* field = FieldOfKey(key)) field->SetText(text);
   });
   if (switches.sortieren) Check1.SetChecked(*switches.sortieren);
-  if (switches.einheitsbelege) Check2.SetChecked(*switches.einheitsbelege);
-  // The program's setting has the last word over the file, which another workstation may have changed meanwhile.
-  const bool oneTemplate = context_.settings.Einheitsbelege;
-  if (!oneTemplate) Check2.SetChecked(false);
+  const bool oneTemplate = switches.einheitsbelege.value_or(context_.settings.Einheitsbelege);
+  Check2.SetChecked(oneTemplate);
   if (!DBPath.Text().empty()) return;
   // A first start: the tables lie beside the program, and one template serves all documents.
   DBPath.SetText(context_.platform.ProgramFolder());
-  if (!oneTemplate) Check2.SetChecked(true);
+  Check2.SetChecked(true);
 }
 
 void Einstellungen::OnUnload() {

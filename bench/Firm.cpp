@@ -7,6 +7,7 @@
 #include "bench/Fail.h"
 #include "bench/Rows.h"
 #include "bench/Yardsticks.h"
+#include "documents/DocumentKinds.h"
 #include "partners/PartnerKind.h"
 #include "shell/DocumentTables.h"
 #include "stock/StockRecords.h"
@@ -59,6 +60,8 @@ Firm::Firm(fs::path programFolder, long rows)
   settings_.DBPath = DataFolder().string() + "\\";
   workshopSettings_.DBPath = WorkshopFolder().string() + "\\";
 }
+
+const fs::path& Firm::EstateFolder() { return Estate::Folder(); }
 
 Firm& Firm::Of(long rows) {
   const fs::path& folder = Estate::Folder();  // first, so that it goes last
@@ -118,17 +121,14 @@ void Firm::MakeTables() {
   Write(table::kAppointments, AppointmentRowOf, rows_);
   Write(table::kOpenDocuments, OpenDocumentRow, rows_);
   Write(table::kDrafts, DraftRow, rows_);
-  WriteDocuments(table::kInvoices, "Rechnung");
-  WriteDocuments(table::kQuotations, "Angebot");
-  WriteDocuments(table::kDeliveryNotes, "Lieferschein");
-  WriteDocuments(table::kCreditNotes, "Gutschrift");
+  for (const DocumentKind kind : kDocumentKinds) WriteDocuments(kind);
 }
 
 void Firm::MakeSinglePieces() {
   MakeFolders();
   Write(table::kStock, SinglePieceRow, rows_);
-  for (const std::string_view table : {table::kInvoices, table::kQuotations, table::kDeliveryNotes, table::kCreditNotes})
-    Write(table, [](long) { return SeedRow("0100/2026", kToday); }, 1);
+  for (const DocumentKind kind : kDocumentKinds)
+    Write(NamesOf(kind).table, [](long) { return SeedRow("0100/2026", kToday); }, 1);
 }
 
 void Firm::WriteConfig() const {
@@ -148,10 +148,11 @@ void Firm::Write(std::string_view table, const std::function<std::string(long in
   if (!store_.WriteTable(table, text)) Fail("a table cannot be written");
 }
 
-void Firm::WriteDocuments(std::string_view table, std::string_view kindWord) {
-  Write(table, [&](long index) {
-    return index == rows_ ? SeedRow("0100/2026", kToday) : DocumentRow(kindWord, index, rows_);
-  }, rows_ + 1);
+void Firm::WriteDocuments(DocumentKind kind) {
+  const auto row = [&](long index) {
+    return index == rows_ ? SeedRow("0100/2026", kToday) : DocumentRow(kind, index, rows_);
+  };
+  Write(NamesOf(kind).table, row, rows_ + 1);
 }
 
 }  // namespace kontorwerk::bench

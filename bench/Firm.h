@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "bench/SqliteTwin.h"
+#include "documents/DocumentKinds.h"
 #include "store/RecordStore.h"
 
 namespace kontorwerk::bench {
@@ -20,12 +21,16 @@ class Firm {
  public:
   // The firm with so many rows in each table; made at the first call.
   [[nodiscard]] static Firm& Of(long rows);
+  // The process's temporary folder; it is gone when the process has ended.
+  [[nodiscard]] static const std::filesystem::path& EstateFolder();
   // A firm that lies in `programFolder` already, of another process: it is used, not made.
   Firm(std::filesystem::path programFolder, long rows);
 
   [[nodiscard]] long Rows() const { return rows_; }
   // The program's folder with config.txt; the tables lie in "Daten" below it.
   [[nodiscard]] const std::filesystem::path& ProgramFolder() const { return programFolder_; }
+  // As the settings hold it.
+  [[nodiscard]] const std::string& DataPath() const { return settings_.DBPath; }
   [[nodiscard]] std::filesystem::path TablePath(std::string_view table) const;
   [[nodiscard]] RecordStore& Store() { return store_; }
 
@@ -48,7 +53,7 @@ class Firm {
   void MakeSinglePieces();
   void WriteConfig() const;
   void Write(std::string_view table, const std::function<std::string(long index)>& row, long rows);
-  void WriteDocuments(std::string_view table, std::string_view kindWord);
+  void WriteDocuments(DocumentKind kind);
 
   std::filesystem::path programFolder_;
   long rows_;

@@ -104,8 +104,8 @@ Subject& Subject::BesideCopy(std::string_view table) {
 }
 
 void MeasureAlone(const std::string& subject, std::string_view measure, long parameter, int rounds,
-                  std::function<std::optional<long>()> operation) {
-  Register(subject, measure, parameter, rounds, {}, std::move(operation));
+                  std::function<std::optional<long>()> operation, std::function<void()> prepare) {
+  Register(subject, measure, parameter, rounds, std::move(prepare), std::move(operation));
 }
 
 }  // namespace kontorwerk::bench

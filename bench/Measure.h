@@ -58,8 +58,9 @@ class Subject {
   bool singlePieces_ = false;
 };
 
-// Operations and programs outside the firms, with their own parameter in place of the number of rows.
+// Operations and programs outside the firms, with their own parameter in place of the number of rows; 0 rounds lets the
+// library choose. `prepare` runs before each measurement, unmeasured.
 void MeasureAlone(const std::string& subject, std::string_view measure, long parameter, int rounds,
-                  std::function<std::optional<long>()> operation);
+                  std::function<std::optional<long>()> operation, std::function<void()> prepare = {});
 
 }  // namespace kontorwerk::bench

@@ -5,6 +5,7 @@
 
 #include "calendar/Appointments.h"
 #include "partners/PartnerTable.h"
+#include "receivables/OpenDocumentRecords.h"
 #include "stock/ArticleRecords.h"
 #include "stock/StockRecords.h"
 #include "store/Dates.h"
@@ -144,6 +145,18 @@ std::string Amount(long index) { return Price(index, 50, 4); }
 
 std::string KindPrefix(long index) { return index % 5 == 0 ? "AB" : index % 5 == 1 ? "LS" : "RG"; }
 
+// The line as the payment screen leaves it: 62 fields, a first payment and a first reminder.
+std::string WithPayment(std::string_view line, long index) {
+  const std::vector<std::string_view> old = RecordFields(line);
+  std::vector<std::string> fields(old.begin(), old.end());
+  fields.resize(kOpenMahngebühr);
+  fields[kOpenSumme - 1] = "50,00";
+  fields[kOpenFirstPayment - 1] = DayBefore(index, 82, 60);
+  fields[kOpenFirstPayment + 1] = "50,00";
+  fields[kOpenMD1 - 1] = DayBefore(index, 83, 90);
+  return RecordLine(fields);
+}
+
 std::string DocumentNumber(long index, long rows) {
   return Concat(PadZeros(std::to_string(1 + (rows - index) % 9000), 4), "/2026");
 }
@@ -213,42 +226,63 @@ std::string AppointmentRowOf(long index) {
 }
 
 std::string OpenDocumentRow(long index) {
-  constexpr std::size_t kReminderColumn = 59;
-  const std::string prefix = KindPrefix(index);
-  const std::string_view kindWord = prefix == "AB" ? "Angebot" : prefix == "LS" ? "Lieferschein" : "Rechnung";
-  std::vector<std::string> fields = {prefix, DocumentNumber(index, 9000), DayBefore(index, 80, 120), CustomerNumber(index / 3),
-                                     PartnerName(index / 3, 0), "", Street(index / 3), Digits(index, 7, 5), std::string(Town(index / 3)),
-                                     "", "", std::string(kindWord), "Falsch", "Wahr", Amount(index), Price(index, 81, 3), "0,00",
-                                     Amount(index)};
-  if (prefix == "RG") fields.push_back(Amount(index));
-  if (index % 4 == 3) {
-    fields.resize(kReminderColumn + 3);
-    fields[19] = "50,00";
-    fields[21] = DayBefore(index, 82, 60);
-    fields[23] = "50,00";
-    fields[kReminderColumn - 1] = DayBefore(index, 83, 90);
-  }
-  return RecordLine(fields);
+  const long customer = index / 3;
+  OpenDocumentRecord record;
+  record.Belegart = KindPrefix(index);
+  record.number = DocumentNumber(index, 9000);
+  record.Datum = DayBefore(index, 80, 120);
+  record.KDNr = CustomerNumber(customer);
+  record.KDName = PartnerName(customer, 0);
+  record.Straße = Street(customer);
+  record.PLZ = Digits(customer, 7, 5);
+  record.Wohnort = Town(customer);
+  record.kindWord = NamesOf(KindOfPrefix(record.Belegart).value()).word;
+  record.Gesamt = Amount(index);
+  record.MWST = Price(index, 81, 3);
+  record.MWST2 = "0,00";
+  record.Betrag = Amount(index);
+  const std::string line = OpenDocumentLine(record);
+  return index % 4 == 3 ? WithPayment(line, index) : line;
 }
 
-std::string DocumentRow(std::string_view kindWord, long index, long rows) {
-  const long positions = 3 + index % 4;
-  std::vector<std::string> fields = {std::to_string(positions), DocumentNumber(index, rows), DayBefore(index, 90, 300),
-                                     CustomerNumber(index / 5), PartnerName(index / 5, rows), "", Street(index / 5),
-                                     Digits(index / 5, 7, 5), std::string(Town(index / 5)), "Hu", "", std::string(kindWord), "Falsch", "Wahr"};
-  for (long position = 0; position < positions; ++position) {
-    const long article = index + position;
-    for (const std::string& text : {StockNumber(article), ArticleNumber(article), std::to_string(1 + position),
-                                    ArticleName(article, 0), Price(article, 28, 3), Price(article, 91, 4), std::string("0")})
-      fields.push_back(text);
-  }
-  for (const std::string& text : {std::string(), Amount(index), Price(index, 92, 3), std::string("0,00"), Amount(index + 1),
-                                  std::string("Zahlbar innerhalb von 14 Tagen ohne Abzug"),
-                                  std::string("Vielen Dank für Ihren Auftrag!"_t), std::string()})
-    fields.push_back(text);
-  if (kindWord == "Rechnung") fields.push_back(DocumentNumber(index, rows));
-  fields.push_back("Herr");
-  return RecordLine(fields);
+DocumentRecord MakeDocument(DocumentKind kind, long index, long rows) {
+  const long customer = index / 5;
+  DocumentRecord record;
+  record.number = DocumentNumber(index, rows);
+  record.Datum = DayBefore(index, 90, 300);
+  record.KDNr = CustomerNumber(customer);
+  record.KDName = PartnerName(customer, rows);
+  record.Straße = Street(customer);
+  record.PLZ = Digits(customer, 7, 5);
+  record.Wohnort = Town(customer);
+  record.UnsereZeichen = "Hu";
+  record.kindWord = NamesOf(kind).word;
+  for (long position = 0; position < 3 + index % 4; ++position) record.rows.push_back(MakePosition(index + position));
+  record.Gesamt = Amount(index);
+  record.MWST = Price(index, 92, 3);
+  record.MWST2 = "0,00";
+  record.Betrag = Amount(index + 1);
+  record.Zahlungsweise = "Zahlbar innerhalb von 14 Tagen ohne Abzug";
+  record.Text1 = "Vielen Dank für Ihren Auftrag!"_t;
+  record.LieferscheinNr = record.number;
+  record.Anrede = "Herr";
+  return record;
+}
+
+PositionRow MakePosition(long index) {
+  PositionRow row;
+  row.LGNr = StockNumber(index);
+  row.ArtNr = ArticleNumber(index);
+  row.S = std::to_string(1 + index % 4);
+  row.B = ArticleName(index, 0);
+  row.E = Price(index, 28, 3);
+  row.G = Price(index, 91, 4);
+  row.secondRate = index % 7 == 0;
+  return row;
+}
+
+std::string DocumentRow(DocumentKind kind, long index, long rows) {
+  return DocumentLine(MakeDocument(kind, index, rows), kind);
 }
 
 std::string DraftRow(long index) {

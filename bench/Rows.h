@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "documents/DocumentRecord.h"
 #include "store/Text.h"
 
 namespace kontorwerk::bench {
@@ -31,7 +32,9 @@ inline constexpr std::string_view kToday = "16.11.2026";
 // Invoices, quotations and delivery notes of the last months, a part with payments and reminders.
 [[nodiscard]] std::string OpenDocumentRow(long index);
 // A document of three to six positions. The newest one, index 0, stands on top of its table.
-[[nodiscard]] std::string DocumentRow(std::string_view kindWord, long index, long rows);
+[[nodiscard]] std::string DocumentRow(DocumentKind kind, long index, long rows);
+[[nodiscard]] DocumentRecord MakeDocument(DocumentKind kind, long index, long rows);
+[[nodiscard]] PositionRow MakePosition(long index);
 [[nodiscard]] std::string DraftRow(long index);
 
 [[nodiscard]] std::string CustomerNumber(long index);

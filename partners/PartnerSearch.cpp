@@ -211,8 +211,8 @@ void PartnerSearch::WriteMail(int column) {
 
 // The blank page first, so that the browser opens a fresh window.
 void PartnerSearch::OpenHomepage() {
-  const std::string address = WebAddressToOpen(Fields.Text(partner::kHomepage));
-  if (address.empty()) return;
+  const std::string address = Fields.Text(partner::kHomepage);
+  if (!IsWebAddress(address)) return;
   context_.platform.Open("about:blank");
   context_.platform.Open(address);
 }

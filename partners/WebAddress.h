@@ -1,13 +1,12 @@
 // Which text of a web-address box may be opened.
 #pragma once
 
-#include <string>
 #include <string_view>
 
 namespace kontorwerk {
 
-// The address to hand to the platform: the text itself with the scheme http, https or mailto, "http://" in front of a
-// text that begins with "www."; empty for everything else, which might name a file or a program.
-[[nodiscard]] std::string WebAddressToOpen(std::string_view text);
+// True for an address with the scheme http, https or mailto, and for the bare name of a host ("www.meier.example/shop",
+// "meier.example"). False for everything else, which might name a file or a program.
+[[nodiscard]] bool IsWebAddress(std::string_view text);
 
 }  // namespace kontorwerk

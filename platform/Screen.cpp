@@ -10,7 +10,8 @@
 
 namespace kontorwerk {
 
-Screen::Screen(Desktop& desktop, std::string_view name) : desktop_(desktop), name_(name), design_(FindFormDesign(name)) {}
+Screen::Screen(Desktop& desktop, std::string_view name)
+    : desktop_(desktop), name_(name), design_(FindFormDesign(name)) {}
 
 Screen::~Screen() { desktop_.Remove(*this); }
 
@@ -106,7 +107,8 @@ bool Screen::IsArray(std::string_view name) const {
 
 namespace {
 
-// A control in the order of work. Elements of arrays come row by row, all of them where the first array of the form stands.
+// A control in the order of work. Elements of arrays come row by row, all of them where the first array of the form
+// stands.
 struct Stop {
   int block;
   int element;
@@ -138,7 +140,8 @@ std::vector<Stop> TabOrder(const Screen& screen, const Control* always) {
 
 Control* Screen::NextInTabOrder(const Control& control, bool backwards) const {
   const std::vector<Stop> stops = TabOrder(*this, &control);
-  const auto here = std::find_if(stops.begin(), stops.end(), [&](const Stop& stop) { return stop.control == &control; });
+  const auto here =
+      std::find_if(stops.begin(), stops.end(), [&](const Stop& stop) { return stop.control == &control; });
   if (here == stops.end() || stops.size() < 2) return nullptr;
   const auto count = static_cast<long>(stops.size());
   const long next = (here - stops.begin() + (backwards ? count - 1 : 1)) % count;

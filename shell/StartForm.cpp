@@ -207,10 +207,7 @@ void StartForm::EnableCommands() {
   Autoupdate.SetEnabled(static_cast<bool>(actions_.setAutomaticUpdates));
 }
 
-void StartForm::OpenManual() {
-  const std::string path = Concat(context_.platform.ProgramFolder(), "Handbuch.pdf");
-  if (context_.files.Exists(path)) context_.platform.Open(path);
-}
+void StartForm::OpenManual() { context_.platform.Open(Concat(context_.platform.ProgramFolder(), "Handbuch.pdf")); }
 
 void StartForm::AskToEnd() {
   if (context_.platform.Ask("Kontorwerk wirklich beenden?", "Wirklich beenden")) Unload();

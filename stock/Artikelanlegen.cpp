@@ -17,6 +17,7 @@ namespace {
 // The printed width of a description line.
 constexpr int kDescriptionLength = 47;
 constexpr int kFewCharacters = 5;
+constexpr Colour kRed{255};
 
 constexpr std::string_view kLeaveTitle = "Ohne speichern beenden";
 constexpr std::string_view kLeaveQuestion = "Artikel wurde geändert. Ohne speichern beenden?"_t;
@@ -194,7 +195,7 @@ void Artikelanlegen::RefuseNumber(std::string_view why) {
 void Artikelanlegen::ShowRemaining(const TextBox& line) {
   const int remaining = kDescriptionLength - Len(line.Text());
   Label37.SetCaption(std::to_string(remaining));
-  Label37.SetForeColour(remaining < kFewCharacters ? std::optional<Colour>(kWarning) : std::nullopt);
+  Label37.SetForeColour(remaining < kFewCharacters ? std::optional<Colour>(kRed) : std::nullopt);
 }
 
 void Artikelanlegen::ShowItemKind() {

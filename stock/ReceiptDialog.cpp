@@ -15,8 +15,8 @@ ReceiptDialog::ReceiptDialog(Context& context, std::string_view name)
       context_(context) {
   OKButton.OnClick = [this] { Confirm(); };
   ComboEK.OnEnter = ComboEK.OnClick = [this] { Option1.SetValue(true); };
-  aktEK.OnEnter = aktEK.OnClick = [this] { EnterTypedPrice(); };
-  aktEK.OnChange = [this] { Option2.SetValue(true); };
+  aktEK.OnEnter = [this] { EnterTypedPrice(); };
+  aktEK.OnClick = aktEK.OnChange = [this] { ChooseTypedPrice(); };
   aktEK.OnLeave = [this] { LeaveTypedPrice(); };
   aktEK.OnKey = [this](Key& key) {
     if (!key.Is(KeyCode::Enter)) return;
@@ -24,7 +24,7 @@ ReceiptDialog::ReceiptDialog(Context& context, std::string_view name)
     LeaveTypedPrice();
     Confirm();
   };
-  Option2.OnClick = [this] { chosenByEntering_ = false; };
+  Option2.OnClick = [this] { ChooseTypedPrice(); };
 }
 
 void ReceiptDialog::Prepare(const std::array<std::string, 3>& knownPrices) {
@@ -51,6 +51,12 @@ bool ReceiptDialog::Run(const std::array<std::string, 3>& knownPrices) {
   Confirmed = false;
   Cancelled = false;
   return confirmed;
+}
+
+// Whoever clicks or types there means it, even if he leaves the field empty.
+void ReceiptDialog::ChooseTypedPrice() {
+  chosenByEntering_ = false;
+  Option2.SetValue(true);
 }
 
 void ReceiptDialog::EnterTypedPrice() {

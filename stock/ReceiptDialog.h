@@ -45,10 +45,11 @@ class ReceiptDialog : public Screen {
  private:
   void OnUnload() override { Cancelled = !Confirmed; }
   void Prepare(const std::array<std::string, 3>& knownPrices);
+  void ChooseTypedPrice();
   void EnterTypedPrice();
   void LeaveTypedPrice();
 
-  // The typed price was chosen by entering its field, not by its option.
+  // The typed price was chosen by entering its field with the keyboard, not by a click or by typing.
   bool chosenByEntering_ = false;
 };
 

@@ -3,12 +3,12 @@
 // nothing, so that a search over a long table costs little more than reading it.
 #pragma once
 
-#include "store/Text.h"
-
 #include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "store/Text.h"
 
 namespace kontorwerk {
 
@@ -25,13 +25,27 @@ class CaseBlindPattern {
   [[nodiscard]] std::size_t Length() const { return pattern_.size(); }
 
  private:
+  // One character of the pattern, looked for in both its cases at once.
+  struct Probe {
+    Probe() = default;
+    Probe(std::string_view pattern, std::size_t probedPlace);
+    // True for both cases, and for few other bytes.
+    [[nodiscard]] bool Fits(char c) const {
+      return static_cast<unsigned char>(static_cast<unsigned char>(c) | caseBits) == value;
+    }
+
+    std::size_t place = 0;  // within the pattern
+    unsigned char caseBits = 0;
+    unsigned char value = 0;
+  };
+
   [[nodiscard]] bool MatchesAt(const char* place) const;
+  [[nodiscard]] bool BlockMayHold(const char* block) const;
 
   std::string pattern_;  // upper case
-  // The character of the pattern that a table is likely to hold least, in both its cases: the scan looks for it alone.
-  std::size_t anchor_ = 0;
-  char anchorUpper_ = 0;
-  char anchorLower_ = 0;
+  // The two characters of the pattern that a table is likely to hold least; the same one twice in a pattern of one.
+  Probe first_;
+  Probe second_;
 };
 
 // Calls `visit(row)` for each row of the table's text that holds the pattern, in order, blank rows left out.

@@ -28,6 +28,8 @@ constexpr int kNameAttempts = 100;
 constexpr int kWriteAttempts = 3;
 constexpr int kRenameAttempts = 5;
 constexpr int kMostLinks = 40;
+// Parts of a text are collected to pieces of this size; a part that is longer is written as it is.
+constexpr std::size_t kWriteBuffer = 256 * 1024;
 
 // --- Paths ---------------------------------------------------------------------------------------------------------
 
@@ -171,11 +173,13 @@ bool IsTemporaryName(std::string_view name) {
 // that did not rename it.
 class Save {
  public:
+  using Parts = std::vector<std::string_view>;
+
   Save(Disk& disk, std::string target) : disk_(disk), target_(std::move(target)), folder_(FolderOf(target_)) {}
 
-  bool Run(std::string_view text) {
+  bool Run(const Parts& parts) {
     for (int attempt = 0; attempt < kWriteAttempts; ++attempt) {
-      if (!WriteTemporary(text)) return false;
+      if (!WriteTemporary(parts)) return false;
       const int error = RenameWithRetry();
       if (error == 0) return disk_.SyncFolder(folder_) == 0;
       disk_.Remove(temporary_);
@@ -186,12 +190,12 @@ class Save {
   }
 
  private:
-  bool WriteTemporary(std::string_view text) {
+  bool WriteTemporary(const Parts& parts) {
     const int handle = CreateTemporary();
     if (handle < 0) return false;
     // Best effort: a file system without rights of its own refuses, and the save is good all the same.
     if (PresenceOf(target_) == Presence::There) disk_.CopyPermissions(target_, temporary_);
-    const bool written = WriteAll(handle, text) && disk_.Sync(handle) == 0;
+    const bool written = WriteAll(handle, parts) && disk_.Sync(handle) == 0;
     const bool closed = disk_.Close(handle) == 0;
     if (!written || !closed) disk_.Remove(temporary_);
     return written && closed;
@@ -207,7 +211,19 @@ class Save {
     return -1;
   }
 
-  bool WriteAll(int handle, std::string_view text) {
+  bool WriteAll(int handle, const Parts& parts) {
+    std::string buffer;
+    for (const std::string_view part : parts) {
+      if (buffer.size() + part.size() <= kWriteBuffer) {
+        buffer.append(part);
+      } else if (!WritePiece(handle, std::exchange(buffer, {})) || !WritePiece(handle, part)) {
+        return false;
+      }
+    }
+    return WritePiece(handle, buffer);
+  }
+
+  bool WritePiece(int handle, std::string_view text) {
     while (!text.empty()) {
       int error = 0;
       const long written = disk_.Write(handle, text.data(), text.size(), error);
@@ -281,11 +297,13 @@ ReadResult FileSystemObject::Read(std::string_view path) const {
   return result;
 }
 
-bool FileSystemObject::Write(std::string_view path, std::string_view text) const {
+bool FileSystemObject::Write(std::string_view path, std::string_view text) const { return WriteParts(path, {text}); }
+
+bool FileSystemObject::WriteParts(std::string_view path, const std::vector<std::string_view>& parts) const {
   const FoundPath found = Find(path);
   const std::string target = BehindLinks(found.path);
   if (!found.certain || target.empty() || target.back() == '/') return false;
-  return MayBeReplaced(target) && Save(disk_, target).Run(text);
+  return MayBeReplaced(target) && Save(disk_, target).Run(parts);
 }
 
 bool FileSystemObject::Exists(std::string_view path) const {

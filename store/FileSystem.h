@@ -70,6 +70,8 @@ class FileSystemObject {
   // folder and for a file without any write permission; the old file is then as it was, save for one case: if
   // only the last step failed, the new text is in place but may not survive a power failure.
   [[nodiscard]] bool Write(std::string_view path, std::string_view text) const;
+  // The same with a text in parts, which are never joined in memory: the parts of a large table are mostly its old text.
+  [[nodiscard]] bool WriteParts(std::string_view path, const std::vector<std::string_view>& parts) const;
   // True for files and folders.
   [[nodiscard]] bool Exists(std::string_view path) const;
   [[nodiscard]] bool IsFolder(std::string_view path) const;

@@ -1,8 +1,8 @@
-// Tables as whole texts: each change reads the file, makes the new text beside the old one and saves it.
+// Tables as whole texts: each change reads the file and saves what stays of the old text and the new rows, in parts.
 #include "store/RecordStore.h"
 
 #include <cstddef>
-#include <utility>
+#include <deque>
 
 #include "store/RecordLine.h"
 #include "store/Text.h"
@@ -10,45 +10,38 @@
 namespace kontorwerk {
 namespace {
 
-// Room for the longer rows of a rewrite: without it a table that grows would be copied into twice its size.
-std::size_t RoomForRewrite(std::size_t oldSize) { return oldSize + oldSize / 2 + 4096; }
-
-// The text of a rewrite as it grows. Rows that stay are copied together, up to the next one that does not.
+// A rewritten table in parts: runs of old rows that stay, as views of the old text, and new rows between them.
 class Rewrite {
  public:
-  explicit Rewrite(std::size_t oldSize) { result_.reserve(RoomForRewrite(oldSize)); }
-
-  // `row` with its line end lies directly behind the last one kept, or anywhere else.
+  // `row` lies in the old text with its line end behind it.
   void Keep(std::string_view row) {
-    if (kept_.data() + kept_.size() != row.data()) Flush();
-    kept_ = {kept_.empty() ? row.data() : kept_.data(), kept_.size() + row.size() + kLineEnd.size()};
+    const std::size_t size = row.size() + kLineEnd.size();
+    if (!parts_.empty() && parts_.back().data() + parts_.back().size() == row.data()) {
+      parts_.back() = {parts_.back().data(), parts_.back().size() + size};
+    } else {
+      parts_.emplace_back(row.data(), size);
+    }
   }
-  void Add(std::string_view row) {
-    Flush();
-    result_.append(row).append(kLineEnd);
-  }
-  [[nodiscard]] std::string Finish() {
-    Flush();
-    return std::move(result_);
+  void Add(std::string_view row) { parts_.push_back(newRows_.emplace_back(Concat(row, kLineEnd))); }
+
+  [[nodiscard]] const std::vector<std::string_view>& Parts() const { return parts_; }
+  [[nodiscard]] std::string Joined() const {
+    std::size_t size = 0;
+    for (const std::string_view part : parts_) size += part.size();
+    std::string text;
+    text.reserve(size);
+    for (const std::string_view part : parts_) text.append(part);
+    return text;
   }
 
  private:
-  void Flush() { result_.append(std::exchange(kept_, {})); }
-
-  std::string result_;
-  std::string_view kept_;
+  std::deque<std::string> newRows_;  // which never move
+  std::vector<std::string_view> parts_;
 };
 
-}  // namespace
-
-std::vector<std::string_view> SplitRows(std::string_view text) { return Split(text, kLineEnd); }
-
-std::string_view FirstRow(std::string_view text) { return text.substr(0, text.find(kLineEnd)); }
-
-std::string RewrittenText(std::string_view text, BlankRows blankRows, const RowVisitor& visit) {
-  if (text.empty()) return {};
-  Rewrite rewrite(text.size());
-  for (bool more = true; more;) {
+Rewrite RewriteOf(std::string_view text, BlankRows blankRows, const RowVisitor& visit) {
+  Rewrite rewrite;
+  for (bool more = !text.empty(); more;) {
     const std::size_t end = text.find(kLineEnd);
     const std::string_view row = text.substr(0, end);
     more = end != std::string_view::npos;
@@ -58,7 +51,7 @@ std::string RewrittenText(std::string_view text, BlankRows blankRows, const RowV
     if (change.kind == RowChange::Kind::Replace) {
       rewrite.Add(change.row);
     } else if (change.kind == RowChange::Kind::Keep) {
-      // The last row has no line end of its own that could be copied with it.
+      // The last row has no line end of its own that could stay with it.
       if (more) {
         rewrite.Keep(row);
       } else {
@@ -66,7 +59,17 @@ std::string RewrittenText(std::string_view text, BlankRows blankRows, const RowV
       }
     }
   }
-  return rewrite.Finish();
+  return rewrite;
+}
+
+}  // namespace
+
+std::vector<std::string_view> SplitRows(std::string_view text) { return Split(text, kLineEnd); }
+
+std::string_view FirstRow(std::string_view text) { return text.substr(0, text.find(kLineEnd)); }
+
+std::string RewrittenText(std::string_view text, BlankRows blankRows, const RowVisitor& visit) {
+  return RewriteOf(text, blankRows, visit).Joined();
 }
 
 RecordStore::RecordStore(const FileSystemObject& files, const Settings& settings)
@@ -85,24 +88,26 @@ ReadResult RecordStore::ReadTable(std::string_view fileName) {
   return result;
 }
 
-bool RecordStore::WriteTable(std::string_view fileName, std::string_view text) {
+bool RecordStore::WriteTable(std::string_view fileName, std::string_view text) { return WriteTableParts(fileName, {text}); }
+
+bool RecordStore::WriteTableParts(std::string_view fileName, const std::vector<std::string_view>& parts) {
   const std::string path = PathOf(fileName);
-  return !failedReads_.contains(LCase(path)) && files_.Write(path, text);
+  return !failedReads_.contains(LCase(path)) && files_.WriteParts(path, parts);
 }
 
 bool RecordStore::AppendRow(std::string_view fileName, std::string_view row) {
-  ReadResult old = ReadTable(fileName);
-  return old.status != ReadStatus::Failed && WriteTable(fileName, old.text.append(row).append(kLineEnd));
+  const ReadResult old = ReadTable(fileName);
+  return old.status != ReadStatus::Failed && WriteTableParts(fileName, {old.text, row, kLineEnd});
 }
 
 bool RecordStore::PrependRow(std::string_view fileName, std::string_view row) {
   const ReadResult old = ReadTable(fileName);
-  return old.status != ReadStatus::Failed && WriteTable(fileName, Concat(row, kLineEnd, old.text));
+  return old.status != ReadStatus::Failed && WriteTableParts(fileName, {row, kLineEnd, old.text});
 }
 
 bool RecordStore::RewriteTable(std::string_view fileName, BlankRows blankRows, const RowVisitor& visit) {
   const ReadResult old = ReadTable(fileName);
-  return old.status != ReadStatus::Failed && WriteTable(fileName, RewrittenText(old.text, blankRows, visit));
+  return old.status != ReadStatus::Failed && WriteTableParts(fileName, RewriteOf(old.text, blankRows, visit).Parts());
 }
 
 bool RecordStore::ReplaceRowByNumber(std::string_view fileName, std::string_view number, std::string_view row) {

@@ -75,6 +75,8 @@ class RecordStore {
   [[nodiscard]] ReadResult ReadTable(std::string_view fileName);
   // Writes the whole text; false if the write was skipped or failed (see FileSystemObject::Write).
   bool WriteTable(std::string_view fileName, std::string_view text);
+  // The same with the text in parts (see FileSystemObject::WriteParts).
+  bool WriteTableParts(std::string_view fileName, const std::vector<std::string_view>& parts);
   // The row behind the old text, with CR LF; makes the table if it is missing. This and the following read the table
   // themselves: if that read fails, nothing is written and the result is false.
   bool AppendRow(std::string_view fileName, std::string_view row);

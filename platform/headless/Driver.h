@@ -1,5 +1,6 @@
-// The operator's hands: how a step of a script reaches a control. The headless driver calls the controls themselves, the other
-// one works the real windows. A driver never decides whether a step is allowed; the operator has checked that before.
+// The operator's hands: how a step of a script reaches a control. The headless driver calls the controls themselves,
+// the other one works the real windows. A driver never decides whether a step is allowed; the operator has checked that
+// before.
 #pragma once
 
 #include <string>

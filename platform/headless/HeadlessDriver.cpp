@@ -10,18 +10,27 @@ namespace kontorwerk {
 
 void HeadlessDriver::Click(Control& control) {
   switch (control.Kind()) {
-    case ControlKind::CheckBox: static_cast<CheckBox&>(control).UserToggle(); break;
-    case ControlKind::OptionButton: static_cast<OptionButton&>(control).UserChoose(); break;
+    case ControlKind::CheckBox:
+      static_cast<CheckBox&>(control).UserToggle();
+      break;
+    case ControlKind::OptionButton:
+      static_cast<OptionButton&>(control).UserChoose();
+      break;
     case ControlKind::Label:
     case ControlKind::Image:
     case ControlKind::CommandButton:
-    case ControlKind::MenuEntry: static_cast<CaptionControl&>(control).UserClick(); break;
-    case ControlKind::ListView: static_cast<ListView&>(control).UserClick(0); break;
+    case ControlKind::MenuEntry:
+      static_cast<CaptionControl&>(control).UserClick();
+      break;
+    case ControlKind::ListView:
+      static_cast<ListView&>(control).UserClick(0);
+      break;
     case ControlKind::TextBox:
     case ControlKind::RichTextBox:
       if (auto& box = static_cast<TextBox&>(control); box.OnClick) box.OnClick();
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -30,14 +39,23 @@ void HeadlessDriver::DoubleClick(Control& control, int row) {
     if (handler) handler();
   };
   switch (control.Kind()) {
-    case ControlKind::ListView: static_cast<ListView&>(control).UserDoubleClick(row); break;
+    case ControlKind::ListView:
+      static_cast<ListView&>(control).UserDoubleClick(row);
+      break;
     case ControlKind::TextBox:
-    case ControlKind::RichTextBox: raise(static_cast<TextBox&>(control).OnDoubleClick); break;
+    case ControlKind::RichTextBox:
+      raise(static_cast<TextBox&>(control).OnDoubleClick);
+      break;
     case ControlKind::ComboBox:
-    case ControlKind::ListBox: raise(static_cast<ChoiceControl&>(control).OnDoubleClick); break;
+    case ControlKind::ListBox:
+      raise(static_cast<ChoiceControl&>(control).OnDoubleClick);
+      break;
     case ControlKind::Label:
-    case ControlKind::Image: raise(static_cast<CaptionControl&>(control).OnDoubleClick); break;
-    default: break;
+    case ControlKind::Image:
+      raise(static_cast<CaptionControl&>(control).OnDoubleClick);
+      break;
+    default:
+      break;
   }
 }
 

@@ -147,7 +147,8 @@ Control* Operator::FindControl(std::string_view name) {
   int index = Control::kNoIndex;
   if (part.hasArgument) {
     const auto* end = part.argument.data() + part.argument.size();
-    if (part.argument.empty() || std::from_chars(part.argument.data(), end, index).ptr != end || index < 0) return nullptr;
+    if (part.argument.empty() || std::from_chars(part.argument.data(), end, index).ptr != end || index < 0)
+      return nullptr;
   }
   Control* control = screen->Find(part.name, index);
   return control && control->Kind() != ControlKind::Timer ? control : nullptr;
@@ -170,24 +171,42 @@ Control& Operator::UsableControl(const Step& step) {
   return control;
 }
 
+bool Operator::GoTo(const Screen& screen) {
+  const Control* held = desktop_.Focus();
+  if (!held || &held->Owner() == &screen) return true;
+  Control* next = screen.FocusedControl();
+  if (!next || !next->TakesFocus() || !next->Usable()) return true;
+  driver_.MoveFocus(*next);
+  return !desktop_.Focus() || &desktop_.Focus()->Owner() == &screen;
+}
+
 bool Operator::TakeFocus(Control& control) {
+  if (!control.TakesFocus() && !GoTo(control.Owner())) return false;
   // A handler on the way may have disabled or hidden the control, or closed its screen.
   return driver_.MoveFocus(control) && control.Usable();
 }
 
-int Operator::RowAt(const Step& step, std::size_t index, const ListView& list) {
+int Operator::EntryAt(const Step& step, std::size_t index, const Control& list, int firstPosition) {
+  const std::optional<std::vector<std::string>> entries = EntriesOf(list);
+  if (!entries) Fault("a control of another kind is needed here");
+  const auto count = static_cast<int>(entries->size());
   const std::string& text = ArgumentAt(step, index);
+  int entry = 0;
   if (IsPosition(step, index)) {
-    const int row = NumberAt(step, index);
-    if (row < 1 || row > list.RowCount()) Fault(Concat("unknown row: ", text));
-    return row;
+    entry = NumberAt(step, index) - firstPosition;
+  } else {
+    while (entry < count && (*entries)[static_cast<std::size_t>(entry)] != text) ++entry;
   }
-  int shown = 1;
-  while (shown <= static_cast<int>(list.Columns().size()) && list.Columns()[static_cast<std::size_t>(shown - 1)].hidden)
-    ++shown;
-  for (int row = 1; row <= list.RowCount(); ++row)
-    if (list.Cell(row, shown) == text) return row;
-  Fault(Concat("unknown row: ", text));
+  if (entry < 0 || entry >= count) Fault(Concat(firstPosition == 1 ? "unknown row: " : "unknown entry: ", text));
+  return entry + firstPosition;
+}
+
+void Operator::ClickEntry(Control& list, int row) {
+  if (list.Kind() == ControlKind::ListView) {
+    driver_.Select(static_cast<ListView&>(list), row);
+  } else {
+    driver_.Choose(static_cast<ChoiceControl&>(list), row - 1);
+  }
 }
 
 Operator::Value Operator::ReadValue(const Step& step) {
@@ -196,7 +215,8 @@ Operator::Value Operator::ReadValue(const Step& step) {
   const Screen& screen = ScreenNamed(target.screen);
   if (const Control* control = FindControl(name)) {
     if (target.parts.size() > 2) Fault(Concat("unknown property: ", name));
-    const std::string_view property = target.parts.size() == 2 ? std::string_view(target.parts[1]) : DefaultProperty(*control);
+    const std::string_view property =
+        target.parts.size() == 2 ? std::string_view(target.parts[1]) : DefaultProperty(*control);
     const auto value = PropertyOf(*control, property);
     if (!value) Fault(Concat("unknown property: ", name));
     return {name, *value};

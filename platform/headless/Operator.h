@@ -1,5 +1,5 @@
-// Runs a script over the screens of the program: each step is checked as a person would meet it (seen, enabled, answered), carried
-// out by the driver, and recorded. The first fault of the script itself ends the run.
+// Runs a script over the screens of the program: each step is checked as a person would meet it (seen, enabled,
+// answered), carried out by the driver, and recorded. The first fault of the script itself ends the run.
 #pragma once
 
 #include <functional>
@@ -27,8 +27,8 @@ class Operator {
 
   // What the verb `start` does.
   std::function<void()> onStart;
-  // Ends the process with the exit status of the run: 0 all expectations held, 1 some failed, 2 a fault of the script. The
-  // operator calls it from the depth of a handler, so it must not return.
+  // Ends the process with the exit status of the run: 0 all expectations held, 1 some failed, 2 a fault of the script.
+  // The operator calls it from the depth of a handler, so it must not return.
   std::function<void(int status)> onEnd;
 
   // Runs all steps and ends through onEnd.
@@ -53,7 +53,7 @@ class Operator {
   Screen& ScreenNamed(std::string_view name);
   Control* FindControl(std::string_view name);
   Control& ControlNamed(std::string_view name);
-  // The control, checked for use; `kindName` for the fault text.
+  // The control, checked for use.
   Control& UsableControl(const Step& step);
   template <typename ControlType>
   ControlType& UsableAs(const Step& step) {
@@ -61,9 +61,16 @@ class Operator {
     if (!control) Fault("a control of another kind is needed here");
     return *control;
   }
-  int RowAt(const Step& step, std::size_t index, const ListView& list);
+  // The row of a list or the entry of a box, counted from 1 with `firstPosition` 1, from 0 with 0; by its place or
+  // text.
+  int EntryAt(const Step& step, std::size_t index, const Control& list, int firstPosition);
+  // Clicks the row of a list or chooses the entry of a box.
+  void ClickEntry(Control& list, int row);
   // Moves the focus to the control; false if a handler wanted it elsewhere: the step then ends.
   bool TakeFocus(Control& control);
+  // Goes to another screen without a control in mind, as a click on a label or a menu does: what had the focus is left.
+  // False if a handler wanted to stay.
+  bool GoTo(const Screen& screen);
 
   struct Value {
     std::string name;

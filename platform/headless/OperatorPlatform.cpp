@@ -31,30 +31,42 @@ std::int64_t WallClockMs() {
 
 std::vector<Answer> AllowedAnswers(Buttons buttons) {
   switch (buttons) {
-    case Buttons::Ok: return {Answer::Ok};
-    case Buttons::OkCancel: return {Answer::Ok, Answer::Cancel};
-    case Buttons::YesNo: return {Answer::Yes, Answer::No};
-    case Buttons::YesNoCancel: break;
+    case Buttons::Ok:
+      return {Answer::Ok};
+    case Buttons::OkCancel:
+      return {Answer::Ok, Answer::Cancel};
+    case Buttons::YesNo:
+      return {Answer::Yes, Answer::No};
+    case Buttons::YesNoCancel:
+      break;
   }
   return {Answer::Yes, Answer::No, Answer::Cancel};
 }
 
 std::string_view ButtonText(Answer answer) {
   switch (answer) {
-    case Answer::Ok: return "OK";
-    case Answer::Yes: return "Ja";
-    case Answer::No: return "Nein";
-    case Answer::Cancel: break;
+    case Answer::Ok:
+      return "OK";
+    case Answer::Yes:
+      return "Ja";
+    case Answer::No:
+      return "Nein";
+    case Answer::Cancel:
+      break;
   }
   return "Abbrechen";
 }
 
 std::string_view ScreenEventName(ScreenEvent event) {
   switch (event) {
-    case ScreenEvent::Shown: return "show";
-    case ScreenEvent::Hidden: return "hide";
-    case ScreenEvent::Unloaded: return "unload";
-    default: return {};
+    case ScreenEvent::Shown:
+      return "show";
+    case ScreenEvent::Hidden:
+      return "hide";
+    case ScreenEvent::Unloaded:
+      return "unload";
+    default:
+      return {};
   }
 }
 
@@ -66,7 +78,9 @@ std::string_view FileNameOf(std::string_view path) {
 }  // namespace
 
 OperatorPlatform::OperatorPlatform(EventLog& log, std::string_view programFolder, WordXChange* word)
-    : log_(log), programFolder_(FromUtf8(programFolder).value_or(std::string(programFolder))), word_(word),
+    : log_(log),
+      programFolder_(FromUtf8(programFolder).value_or(std::string(programFolder))),
+      word_(word),
       randomState_(std::random_device{}()) {
   while (programFolder_.ends_with('/')) programFolder_.pop_back();
   if (!programFolder_.ends_with('\\')) programFolder_ += '\\';
@@ -151,8 +165,7 @@ std::optional<Colour> OperatorPlatform::ChooseColour(Colour current) {
 std::int64_t OperatorPlatform::NowMs() const { return fixedMs_ ? *fixedMs_ : WallClockMs() + elapsedMs_; }
 
 void OperatorPlatform::SetNow(const DateTime& now) {
-  fixedMs_ = DayNumber(now.date) * kDayMs +
-             (now.time.hour * 3600LL + now.time.minute * 60LL + now.time.second) * 1000;
+  fixedMs_ = DayNumber(now.date) * kDayMs + (now.time.hour * 3600LL + now.time.minute * 60LL + now.time.second) * 1000;
 }
 
 DateTime OperatorPlatform::Now() {
@@ -233,8 +246,7 @@ WordXChange& OperatorPlatform::WordProcessor() {
 }
 
 void OperatorPlatform::OnScreen(Screen& screen, ScreenEvent event) {
-  if (const std::string_view name = ScreenEventName(event); !name.empty())
-    log_.Emit(name, {{"screen", screen.Name()}});
+  if (const std::string_view name = ScreenEventName(event); !name.empty()) log_.Emit(name, {{"screen", screen.Name()}});
 }
 
 void OperatorPlatform::OnControl(const Control& control, Aspect aspect, int detail) {

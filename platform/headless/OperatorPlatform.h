@@ -1,5 +1,6 @@
-// The surroundings of a run by script: dialogs take their answers from a queue, the clock stands still until it is moved, timers
-// fire as the clock passes them, and whatever would leave the program (paper, mail, sound, addresses) goes into the record.
+// The surroundings of a run by script: dialogs take their answers from a queue, the clock stands still until it is
+// moved, timers fire as the clock passes them, and whatever would leave the program (paper, mail, sound, addresses)
+// goes into the record.
 #pragma once
 
 #include <cstdint>
@@ -47,7 +48,8 @@ class OperatorPlatform final : public Platform, public DesktopObserver {
   [[nodiscard]] const std::string& LastBoxText() const { return lastBoxText_; }
   [[nodiscard]] const std::string& LastBoxTitle() const { return lastBoxTitle_; }
   [[nodiscard]] bool HasQuit() const { return quit_; }
-  // Runs one more step of the script inside a wait; false if there is none. Without it a wait that does not hold is a fault.
+  // Runs one more step of the script inside a wait; false if there is none. Without it a wait that does not hold is a
+  // fault.
   std::function<bool()> onWaiting;
   // What happens when a dialog finds no fitting answer. The dialog counts as cancelled if it returns.
   std::function<void(std::string_view message)> onFault;
@@ -90,7 +92,7 @@ class OperatorPlatform final : public Platform, public DesktopObserver {
   std::optional<std::int64_t> fixedMs_;  // the set clock, milliseconds since 1970 in local time
   std::int64_t elapsedMs_ = 0;           // all advances together; timers live on this scale
   std::map<Timer*, std::int64_t> dueMs_;
-  std::vector<Timer*> timerOrder_;       // in the order of their start
+  std::vector<Timer*> timerOrder_;  // in the order of their start
   std::vector<double> random_;
   std::size_t nextRandom_ = 0;
   std::uint64_t randomState_;

@@ -120,9 +120,11 @@ void Operator::DoClick(const Step& step) {
 void Operator::DoDoubleClick(const Step& step) {
   NeedArguments(step, 1, 2);
   Control& control = UsableControl(step);
-  int row = 0;
-  if (step.arguments.size() > 1) row = RowAt(step, 1, UsableAs<ListView>(step));
-  if (TakeFocus(control)) driver_.DoubleClick(control, row);
+  const int row = step.arguments.size() > 1 ? EntryAt(step, 1, control, 1) : 0;
+  if (!TakeFocus(control)) return;
+  // A list clicks the row itself.
+  if (row > 0 && control.Kind() != ControlKind::ListView) ClickEntry(control, row);
+  driver_.DoubleClick(control, row);
 }
 
 void Operator::DoSet(const Step& step) {
@@ -143,22 +145,15 @@ void Operator::DoType(const Step& step) {
 
 void Operator::DoChoose(const Step& step) {
   NeedArguments(step, 2, 2);
-  auto& control = UsableAs<ChoiceControl>(step);
-  int index = 0;
-  if (IsPosition(step, 1)) {
-    index = NumberAt(step, 1);
-  } else {
-    const std::string& text = ArgumentAt(step, 1);
-    while (index < control.Count() && control.Items()[static_cast<std::size_t>(index)] != text) ++index;
-  }
-  if (index < 0 || index >= control.Count()) Fault(Concat("unknown entry: ", ArgumentAt(step, 1)));
-  if (TakeFocus(control)) driver_.Choose(control, index);
+  Control& control = UsableControl(step);
+  const int index = EntryAt(step, 1, control, 0);
+  if (TakeFocus(control)) ClickEntry(control, index + 1);
 }
 
 void Operator::DoTick(const Step& step) {
   NeedArguments(step, 3, 3);
   auto& list = UsableAs<ListView>(step);
-  const int row = RowAt(step, 1, list);
+  const int row = EntryAt(step, 1, list, 1);
   const std::string& state = ArgumentAt(step, 2);
   if (state != "on" && state != "off") Fault(Concat("neither on nor off: ", state));
   if (TakeFocus(list)) driver_.Tick(list, row, state == "on");
@@ -166,9 +161,9 @@ void Operator::DoTick(const Step& step) {
 
 void Operator::DoSelect(const Step& step) {
   NeedArguments(step, 2, 2);
-  auto& list = UsableAs<ListView>(step);
-  const int row = RowAt(step, 1, list);
-  if (TakeFocus(list)) driver_.Select(list, row);
+  Control& list = UsableControl(step);
+  const int row = EntryAt(step, 1, list, 1);
+  if (TakeFocus(list)) ClickEntry(list, row);
 }
 
 void Operator::DoSort(const Step& step) {

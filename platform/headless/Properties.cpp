@@ -50,12 +50,17 @@ const ChoiceControl* AsChoice(const Control& control) { return dynamic_cast<cons
 
 std::optional<std::string> ValueOf(const Control& control) {
   switch (control.Kind()) {
-    case ControlKind::CheckBox: return std::to_string(static_cast<const CheckBox&>(control).Value());
-    case ControlKind::OptionButton: return Truth(static_cast<const OptionButton&>(control).Value());
-    case ControlKind::MenuEntry: return std::to_string(static_cast<const MenuEntry&>(control).Checked() ? 1 : 0);
+    case ControlKind::CheckBox:
+      return std::to_string(static_cast<const CheckBox&>(control).Value());
+    case ControlKind::OptionButton:
+      return Truth(static_cast<const OptionButton&>(control).Value());
+    case ControlKind::MenuEntry:
+      return std::to_string(static_cast<const MenuEntry&>(control).Checked() ? 1 : 0);
     case ControlKind::ProgressBar:
-    case ControlKind::ScrollBar: return std::to_string(static_cast<const RangeControl&>(control).Value());
-    default: return std::nullopt;
+    case ControlKind::ScrollBar:
+      return std::to_string(static_cast<const RangeControl&>(control).Value());
+    default:
+      return std::nullopt;
   }
 }
 
@@ -69,13 +74,28 @@ std::string ShownCells(const ListView& list, int row) {
   return Joined(cells);
 }
 
+// Rows and entries are read alike, whether the form shows a list with columns, a list box or a combo box.
+std::optional<std::string> EntryPropertyOf(const Control& control, const BracketedName& property) {
+  const std::optional<std::vector<std::string>> entries = EntriesOf(control);
+  if (!entries) return std::nullopt;
+  const ChoiceControl* choice = AsChoice(control);
+  const int selected = choice ? choice->ListIndex() + 1 : static_cast<const ListView&>(control).Selected();
+  const int row = NumberOf(property.argument);
+  const bool exists = row >= 1 && row <= static_cast<int>(entries->size());
+  if (property.name == "rows") return std::to_string(entries->size());
+  if (property.name == "list") return Joined(*entries);
+  if (property.name == "selected") return std::to_string(selected);
+  if (property.name == "listindex") return std::to_string(selected - 1);
+  if (property.name == "row" && exists)
+    return choice ? (*entries)[static_cast<std::size_t>(row - 1)]
+                  : ShownCells(static_cast<const ListView&>(control), row);
+  return property.name == "row" ? std::optional(std::string()) : std::nullopt;
+}
+
 std::optional<std::string> ListPropertyOf(const ListView& list, const BracketedName& property) {
   const int row = NumberOf(property.argument);
   const bool exists = row >= 1 && row <= list.RowCount();
-  if (property.name == "rows") return std::to_string(list.RowCount());
   if (property.name == "columns") return ShownCells(list, 0);
-  if (property.name == "selected") return std::to_string(list.Selected());
-  if (property.name == "row") return exists ? ShownCells(list, row) : std::string();
   if (property.name == "ticked") return Truth(list.Ticked(row));
   if (property.name == "rowcolor")
     return exists ? ColourText(list.Rows()[static_cast<std::size_t>(row - 1)].colour) : std::string();
@@ -85,13 +105,12 @@ std::optional<std::string> ListPropertyOf(const ListView& list, const BracketedN
 std::optional<std::string> KindPropertyOf(const Control& control, const BracketedName& property) {
   const std::string& name = property.name;
   if (name == "value") return ValueOf(control);
-  if (IsTextBox(control) && name == "text") return static_cast<const TextBox&>(control).Text();
-  if (const CaptionControl* captioned = AsCaption(control); captioned && name == "caption") return captioned->Caption();
-  if (const ChoiceControl* choice = AsChoice(control)) {
-    if (name == "text") return choice->Text();
-    if (name == "listindex") return std::to_string(choice->ListIndex());
-    if (name == "list") return Joined(choice->Items());
-  }
+  // Whether a form shows a text in a field or on a label makes no difference to its reader.
+  const bool shown = name == "text" || name == "caption";
+  if (IsTextBox(control) && shown) return static_cast<const TextBox&>(control).Text();
+  if (const CaptionControl* captioned = AsCaption(control); captioned && shown) return captioned->Caption();
+  if (const ChoiceControl* choice = AsChoice(control); choice && name == "text") return choice->Text();
+  if (const auto value = EntryPropertyOf(control, property)) return value;
   if (control.Kind() == ControlKind::ListView) return ListPropertyOf(static_cast<const ListView&>(control), property);
   if (control.Kind() == ControlKind::StatusBar && name == "panel")
     return static_cast<const StatusBar&>(control).Panel(NumberOf(property.argument));
@@ -108,20 +127,40 @@ std::optional<std::string> KindPropertyOf(const Control& control, const Brackete
 
 }  // namespace
 
+std::optional<std::vector<std::string>> EntriesOf(const Control& control) {
+  if (const ChoiceControl* choice = AsChoice(control)) return choice->Items();
+  if (control.Kind() != ControlKind::ListView) return std::nullopt;
+  const auto& list = static_cast<const ListView&>(control);
+  int shown = 1;
+  for (const ListColumn& column : list.Columns()) {
+    if (!column.hidden) break;
+    ++shown;
+  }
+  std::vector<std::string> entries;
+  for (int row = 1; row <= list.RowCount(); ++row) entries.push_back(list.Cell(row, shown));
+  return entries;
+}
+
 std::string_view DefaultProperty(const Control& control) {
   switch (control.Kind()) {
     case ControlKind::Label:
     case ControlKind::CommandButton:
     case ControlKind::MenuEntry:
-    case ControlKind::Image: return "caption";
+    case ControlKind::Image:
+      return "caption";
     case ControlKind::CheckBox:
     case ControlKind::OptionButton:
     case ControlKind::ProgressBar:
-    case ControlKind::ScrollBar: return "value";
-    case ControlKind::ListView: return "rows";
-    case ControlKind::MonthView: return "date";
-    case ControlKind::StatusBar: return "panel(4)";
-    default: return "text";
+    case ControlKind::ScrollBar:
+      return "value";
+    case ControlKind::ListView:
+      return "rows";
+    case ControlKind::MonthView:
+      return "date";
+    case ControlKind::StatusBar:
+      return "panel(4)";
+    default:
+      return "text";
   }
 }
 

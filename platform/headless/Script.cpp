@@ -23,12 +23,24 @@ std::optional<std::string> TakeQuoted(std::string_view& rest, std::string& fault
     }
     if (++i == rest.size()) break;
     switch (rest[i]) {
-      case '"': text += '"'; break;
-      case '\\': text += '\\'; break;
-      case 'r': text += '\r'; break;
-      case 'n': text += '\n'; break;
-      case 't': text += '\t'; break;
-      default: fault = Concat("unknown escape \\", rest.substr(i, 1)); return std::nullopt;
+      case '"':
+        text += '"';
+        break;
+      case '\\':
+        text += '\\';
+        break;
+      case 'r':
+        text += '\r';
+        break;
+      case 'n':
+        text += '\n';
+        break;
+      case 't':
+        text += '\t';
+        break;
+      default:
+        fault = Concat("unknown escape \\", rest.substr(i, 1));
+        return std::nullopt;
     }
   }
   if (i >= rest.size()) {

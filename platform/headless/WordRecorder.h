@@ -1,5 +1,5 @@
-// Writes every call of the word processor into the operator's record and hands it on. Paper goes into the record alone, unless the
-// run was told to print or to keep the papers.
+// Writes every call of the word processor into the operator's record and hands it on. Paper goes into the record alone,
+// unless the run was told to print or to keep the papers.
 #pragma once
 
 #include <string>

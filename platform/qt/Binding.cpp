@@ -1,3 +1,4 @@
+// What all ties share: visibility, use, tool tip and colours of the widget; and which tie a widget of a form gets.
 #include "platform/qt/Binding.h"
 
 #include <QAction>
@@ -51,11 +52,19 @@ void Binding::Update(Aspect aspect, int detail) {
       ShowVisible(control_->Visible());
       host_.VisibilityChanged();
       break;
-    case Aspect::Enabled: ShowEnabled(); break;
-    case Aspect::ToolTip: ShowToolTip(ToQtLines(control_->ToolTip())); break;
+    case Aspect::Enabled:
+      ShowEnabled();
+      break;
+    case Aspect::ToolTip:
+      ShowToolTip(ToQtLines(control_->ToolTip()));
+      break;
     case Aspect::Colour:
-    case Aspect::BackColour: ShowColours(); break;
-    default: ShowState(aspect, detail); break;
+    case Aspect::BackColour:
+      ShowColours();
+      break;
+    default:
+      ShowState(aspect, detail);
+      break;
   }
   --showing_;
 }
@@ -83,7 +92,8 @@ void Binding::ShowToolTip(const QString& toolTip) {
 
 void Binding::ShowColours() {
   QString rules;
-  if (control_->ForeColour()) rules += QStringLiteral("color: %1;").arg(Theme::ShownText(*control_->ForeColour()).name());
+  if (control_->ForeColour())
+    rules += QStringLiteral("color: %1;").arg(Theme::ShownText(*control_->ForeColour()).name());
   if (control_->BackColour())
     rules += QStringLiteral("background-color: %1;").arg(Theme::ShownBackground(*control_->BackColour()).name());
   if (rules != widget_->styleSheet()) widget_->setStyleSheet(rules);

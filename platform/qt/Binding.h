@@ -1,6 +1,6 @@
-// The tie between one control and its widget, in both directions: what the control tells is shown, what the user does at
-// the widget goes to the control as the user's act. A tie can go on to another control, as rows of a grid do when they
-// scroll.
+// The tie between one control and its widget, in both directions: what the control tells is shown, what the user does
+// at the widget goes to the control as the user's act. A tie can go on to another control, as rows of a grid do when
+// they scroll.
 //
 // The control has the last word: after each act of the user the widget is put back to what the control says.
 #pragma once

@@ -1,3 +1,5 @@
+// Captions, clicks and values of labels, buttons and menu entries; a caption that the program sets is never read as
+// markup.
 #include "platform/qt/CaptionBindings.h"
 
 #include <QStyle>
@@ -17,7 +19,8 @@ IconTone ToneOf(const QString& role) {
 
 }  // namespace
 
-LabelBinding::LabelBinding(CaptionLabel* label, BindingHost& host) : Binding(label, host), label_(label), caption_(label->text()) {
+LabelBinding::LabelBinding(CaptionLabel* label, BindingHost& host)
+    : Binding(label, host), label_(label), caption_(label->text()) {
   label->LoadPicture();
   label->onClick = [this] { UserAct([this] { As<CaptionControl>()->UserClick(); }); };
   label->onDoubleClick = [this] {
@@ -52,15 +55,17 @@ ButtonBinding::ButtonBinding(QAbstractButton* button, BindingHost& host)
   button->setAutoExclusive(false);
   const QString picture = button->property("picture").toString();
   if (!picture.isEmpty()) button->setIcon(ThemeIcon(picture, ToneOf(button->property("role").toString())));
-  connect(button, &QAbstractButton::clicked, this, [this] {
-    UserAct([this] { Act(); });
-  });
+  connect(button, &QAbstractButton::clicked, this, [this] { UserAct([this] { Act(); }); });
 }
 
 void ButtonBinding::Act() {
   switch (Bound()->Kind()) {
-    case ControlKind::CheckBox: As<CheckBox>()->UserToggle(); break;
-    case ControlKind::OptionButton: As<OptionButton>()->UserChoose(); break;
+    case ControlKind::CheckBox:
+      As<CheckBox>()->UserToggle();
+      break;
+    case ControlKind::OptionButton:
+      As<OptionButton>()->UserChoose();
+      break;
     default:
       MarkCurrent();
       As<CaptionControl>()->UserClick();

@@ -1,3 +1,4 @@
+// Clicks of a label; what they mean is the tie's business.
 #include "platform/qt/CaptionLabel.h"
 
 #include <QMouseEvent>

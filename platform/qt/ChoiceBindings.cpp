@@ -1,3 +1,4 @@
+// Entries and choices both ways; changes by the control are shown with the widgets' signals held back.
 #include "platform/qt/ChoiceBindings.h"
 
 #include <QGuiApplication>
@@ -29,9 +30,8 @@ Date FromQtDate(const QDate& date) { return {date.year(), date.month(), date.day
 ComboBinding::ComboBinding(QComboBox* combo, BindingHost& host) : Binding(combo, host), combo_(combo) {
   combo->setInsertPolicy(QComboBox::NoInsert);
   combo->setMaxVisibleItems(20);
-  connect(combo, &QComboBox::activated, this, [this](int index) {
-    UserAct([&] { As<ComboBox>()->UserChoose(index); });
-  });
+  connect(combo, &QComboBox::activated, this,
+          [this](int index) { UserAct([&] { As<ComboBox>()->UserChoose(index); }); });
   if (!combo->isEditable()) return;
   combo->setCompleter(nullptr);
   GuardCharacters(*combo->lineEdit());
@@ -157,9 +157,8 @@ void ScrollBinding::ShowAll() {
 CalendarBinding::CalendarBinding(MonthCalendar* calendar, BindingHost& host)
     : Binding(calendar, host), calendar_(calendar) {
   calendar->isBold = [this](QDate date) { return Bound() != nullptr && As<MonthView>()->Bold(FromQtDate(date)); };
-  connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) {
-    UserAct([&] { As<MonthView>()->UserDate(FromQtDate(date)); });
-  });
+  connect(calendar, &QCalendarWidget::clicked, this,
+          [this](QDate date) { UserAct([&] { As<MonthView>()->UserDate(FromQtDate(date)); }); });
   // The mouse tells the day with its click; by the arrow keys it changes without one.
   connect(calendar, &QCalendarWidget::selectionChanged, this, [this] {
     if (!Showing() && QGuiApplication::mouseButtons() == Qt::NoButton)

@@ -1,3 +1,4 @@
+// Sizes and drawing of buttons, cards and centres; the frame comes from the sheet of the look.
 #include "platform/qt/CommandWidget.h"
 
 #include <QPainter>
@@ -58,7 +59,9 @@ QSize CommandWidget::sizeHint() const {
   if (look != Look::Button) return PanelSize(look);
   const int height = std::max(fontMetrics().height(), iconSize().height()) + 2 * kButtonPad;
   const bool narrow = text().isEmpty() || property("compact").toBool();
-  return QPushButton::sizeHint().expandedTo({narrow ? height : fontMetrics().averageCharWidth() * kButtonColumns, height});
+  if (property("rowCell").toBool()) return {height - kButtonPad, height - kButtonPad};
+  return QPushButton::sizeHint().expandedTo(
+      {narrow ? height : fontMetrics().averageCharWidth() * kButtonColumns, height});
 }
 
 // Never narrower than its text.

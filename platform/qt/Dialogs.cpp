@@ -1,3 +1,5 @@
+// The boxes are plain dialogs: a text that can be copied, buttons in the order of the answers, the first one for
+// Enter.
 #include "platform/qt/Dialogs.h"
 
 #include <QApplication>
@@ -95,7 +97,9 @@ class BoxDialog final : public QDialog {
 
   void AddButtons(QHBoxLayout& row) {
     switch (buttons_) {
-      case Buttons::Ok: AddButton(row, QStringLiteral("&OK"), Answer::Ok); break;
+      case Buttons::Ok:
+        AddButton(row, QStringLiteral("&OK"), Answer::Ok);
+        break;
       case Buttons::OkCancel:
         AddButton(row, QStringLiteral("&OK"), Answer::Ok);
         AddButton(row, QStringLiteral("&Abbrechen"), Answer::Cancel);

@@ -10,12 +10,12 @@ namespace kontorwerk {
 // `kind` = Image is an Image, a QAction a MenuEntry.
 [[nodiscard]] inline const QHash<QString, QString>& KindOfClass() {
   static const QHash<QString, QString> kinds = {
-      {"QLineEdit", "TextBox"},        {"QPlainTextEdit", "TextBox"},    {"QTextEdit", "RichTextBox"},
-      {"QLabel", "Label"},             {"QPushButton", "CommandButton"}, {"QToolButton", "CommandButton"},
-      {"QCheckBox", "CheckBox"},       {"QRadioButton", "OptionButton"}, {"QComboBox", "ComboBox"},
-      {"QListWidget", "ListBox"},      {"QTreeView", "ListView"},        {"QCalendarWidget", "MonthView"},
-      {"QStatusBar", "StatusBar"},     {"QProgressBar", "ProgressBar"},  {"QScrollBar", "ScrollBar"},
-      {"QTabWidget", "TabStrip"},      {"QMenu", "MenuEntry"},
+      {"QLineEdit", "TextBox"},    {"QPlainTextEdit", "TextBox"},    {"QTextEdit", "RichTextBox"},
+      {"QLabel", "Label"},         {"QPushButton", "CommandButton"}, {"QToolButton", "CommandButton"},
+      {"QCheckBox", "CheckBox"},   {"QRadioButton", "OptionButton"}, {"QComboBox", "ComboBox"},
+      {"QListWidget", "ListBox"},  {"QTreeView", "ListView"},        {"QCalendarWidget", "MonthView"},
+      {"QStatusBar", "StatusBar"}, {"QProgressBar", "ProgressBar"},  {"QScrollBar", "ScrollBar"},
+      {"QTabWidget", "TabStrip"},  {"QMenu", "MenuEntry"},
   };
   return kinds;
 }

@@ -14,10 +14,10 @@ class Screen;
 
 // A widget or action of a form that must have its control.
 struct FormWidget {
-  QString name;       // as it stands in the form
-  QString control;    // without the index of a fixed array
-  int index = -1;     // in a fixed array
-  QString kind;       // KindName of the control
+  QString name;        // as it stands in the form
+  QString control;     // without the index of a fixed array
+  int index = -1;      // in a fixed array
+  QString kind;        // KindName of the control
   bool inRow = false;  // in a row template: one for each element of the array
 };
 

@@ -1,3 +1,4 @@
+// Names the class of our own for each class of a form that has one.
 #include "platform/qt/FormLoader.h"
 
 #include <QBuffer>

@@ -1,3 +1,4 @@
+// By the English text alone: none of them means two things in the dialogs that the program opens.
 #include "platform/qt/GermanTexts.h"
 
 #include <QHash>

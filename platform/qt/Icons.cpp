@@ -1,3 +1,4 @@
+// Draws a picture from its file each time it is asked for, so that size, scaling and colours are always right.
 #include "platform/qt/Icons.h"
 
 #include <QFile>
@@ -15,11 +16,16 @@ QColor ColourOf(IconTone tone, QIcon::Mode mode) {
   const ThemeColours& colours = Theme::Colours();
   if (mode == QIcon::Disabled) return colours.disabled;
   switch (tone) {
-    case IconTone::Accent: return colours.accent;
-    case IconTone::OnAccent: return colours.onAccent;
-    case IconTone::Danger: return colours.danger;
-    case IconTone::Muted: return colours.muted;
-    case IconTone::Text: break;
+    case IconTone::Accent:
+      return colours.accent;
+    case IconTone::OnAccent:
+      return colours.onAccent;
+    case IconTone::Danger:
+      return colours.danger;
+    case IconTone::Muted:
+      return colours.muted;
+    case IconTone::Text:
+      break;
   }
   return colours.text;
 }

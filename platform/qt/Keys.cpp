@@ -1,3 +1,4 @@
+// The two tables of key codes side by side; letters and digits have the same code in both.
 #include "platform/qt/Keys.h"
 
 #include <array>
@@ -7,12 +8,23 @@ namespace kontorwerk {
 namespace {
 
 constexpr std::array<std::pair<int, KeyCode>, 17> kCodes = {{
-    {Qt::Key_Return, KeyCode::Enter},   {Qt::Key_Enter, KeyCode::Enter},       {Qt::Key_Escape, KeyCode::Escape},
-    {Qt::Key_Tab, KeyCode::Tab},        {Qt::Key_Backtab, KeyCode::Tab},       {Qt::Key_Backspace, KeyCode::Backspace},
-    {Qt::Key_Delete, KeyCode::Delete},  {Qt::Key_Insert, KeyCode::Insert},     {Qt::Key_Space, KeyCode::Space},
-    {Qt::Key_Up, KeyCode::Up},          {Qt::Key_Down, KeyCode::Down},         {Qt::Key_Left, KeyCode::Left},
-    {Qt::Key_Right, KeyCode::Right},    {Qt::Key_Home, KeyCode::Home},         {Qt::Key_End, KeyCode::End},
-    {Qt::Key_PageUp, KeyCode::PageUp},  {Qt::Key_PageDown, KeyCode::PageDown},
+    {Qt::Key_Return, KeyCode::Enter},
+    {Qt::Key_Enter, KeyCode::Enter},
+    {Qt::Key_Escape, KeyCode::Escape},
+    {Qt::Key_Tab, KeyCode::Tab},
+    {Qt::Key_Backtab, KeyCode::Tab},
+    {Qt::Key_Backspace, KeyCode::Backspace},
+    {Qt::Key_Delete, KeyCode::Delete},
+    {Qt::Key_Insert, KeyCode::Insert},
+    {Qt::Key_Space, KeyCode::Space},
+    {Qt::Key_Up, KeyCode::Up},
+    {Qt::Key_Down, KeyCode::Down},
+    {Qt::Key_Left, KeyCode::Left},
+    {Qt::Key_Right, KeyCode::Right},
+    {Qt::Key_Home, KeyCode::Home},
+    {Qt::Key_End, KeyCode::End},
+    {Qt::Key_PageUp, KeyCode::PageUp},
+    {Qt::Key_PageDown, KeyCode::PageDown},
 }};
 
 bool IsLetterOrDigit(int code) {

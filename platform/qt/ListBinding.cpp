@@ -1,3 +1,4 @@
+// Waits with changes of rows until the running handler is through, then shows them in one step.
 #include "platform/qt/ListBinding.h"
 
 #include <QHeaderView>
@@ -25,9 +26,8 @@ ListBinding::ListBinding(RowsView* view, BindingHost& host) : Binding(view, host
   view->onDoubleClick = [this](int) { UserAct([this] { As<ListView>()->UserDoubleClick(0); }); };
   view->onTick = [this](int row) { UserAct([&] { As<ListView>()->UserTick(row, !As<ListView>()->Ticked(row)); }); };
   view->onSearch = [this](const QString& typed) { Search(typed); };
-  connect(view->header(), &QHeaderView::sectionClicked, this, [this](int section) {
-    UserAct([&] { As<ListView>()->UserSort(model_.ControlColumn(section)); });
-  });
+  connect(view->header(), &QHeaderView::sectionClicked, this,
+          [this](int section) { UserAct([&] { As<ListView>()->UserSort(model_.ControlColumn(section)); }); });
   connect(view->header(), &QHeaderView::sectionResized, this, [this] { userSized_ = userSized_ || !sizing_; });
 }
 
@@ -42,8 +42,12 @@ void ListBinding::ThemeChanged() {
 
 void ListBinding::ShowState(Aspect aspect, int detail) {
   switch (aspect) {
-    case Aspect::Columns: Wait(Waiting::Columns); break;
-    case Aspect::Rows: Wait(detail > 0 ? Waiting::Appended : Waiting::Rows); break;
+    case Aspect::Columns:
+      Wait(Waiting::Columns);
+      break;
+    case Aspect::Rows:
+      Wait(detail > 0 ? Waiting::Appended : Waiting::Rows);
+      break;
     case Aspect::RowLook:
       if (detail < 1) view_->SetEmptyText(ToQt(As<ListView>()->EmptyText()));
       if (waiting_ < Waiting::Rows) model_.RowChanged(detail);
@@ -55,7 +59,8 @@ void ListBinding::ShowState(Aspect aspect, int detail) {
       ensureVisible_ = detail;
       if (waiting_ == Waiting::Nothing) ShowSelection();
       break;
-    default: break;
+    default:
+      break;
   }
 }
 
@@ -70,8 +75,7 @@ void ListBinding::ShowAll() {
 }
 
 void ListBinding::Wait(Waiting waiting) {
-  if (waiting_ == Waiting::Nothing)
-    QTimer::singleShot(0, this, [this] { Settle(); });
+  if (waiting_ == Waiting::Nothing) QTimer::singleShot(0, this, [this] { Settle(); });
   waiting_ = std::max(waiting_, waiting);
 }
 

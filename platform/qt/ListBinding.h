@@ -39,8 +39,8 @@ class ListBinding final : public Binding {
   RowsModel model_;
   Waiting waiting_ = Waiting::Nothing;
   int ensureVisible_ = 0;
-  bool sized_ = false;       // columns have had their widths from rows
-  bool userSized_ = false;   // the user has moved a border
+  bool sized_ = false;      // columns have had their widths from rows
+  bool userSized_ = false;  // the user has moved a border
   bool sizing_ = false;
   const Control* shown_ = nullptr;
 };

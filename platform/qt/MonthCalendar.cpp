@@ -1,3 +1,4 @@
+// Draws the days itself: the chosen one filled, today framed, bold ones with a dot.
 #include "platform/qt/MonthCalendar.h"
 
 #include <QEvent>
@@ -56,6 +57,7 @@ void MonthCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) 
   painter->setRenderHint(QPainter::Antialiasing);
   painter->fillRect(rect, colours.surface);
   painter->setPen(date == QDate::currentDate() && !selected ? QPen(colours.accent, 1.2) : QPen(Qt::NoPen));
+  if (selected && focusProxy() != nullptr && focusProxy()->hasFocus()) painter->setPen(QPen(colours.text, 2));
   painter->setBrush(selected ? QBrush(isEnabled() ? colours.accent : colours.disabled) : QBrush(Qt::NoBrush));
   if (selected || date == QDate::currentDate()) painter->drawRoundedRect(frame, kCorner, kCorner);
   QFont face = font();
@@ -66,6 +68,7 @@ void MonthCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) 
   painter->drawText(frame, Qt::AlignCenter, QString::number(date.day()));
   if (bold) {
     painter->setPen(Qt::NoPen);
+    if (selected && focusProxy() != nullptr && focusProxy()->hasFocus()) painter->setPen(QPen(colours.text, 2));
     painter->setBrush(selected ? colours.onAccent : ink);
     painter->drawEllipse(QRectF(frame.center().x() - kDot / 2.0 + 0.5, frame.bottom() - kDot - 1.0, kDot, kDot));
   }

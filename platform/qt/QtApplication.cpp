@@ -1,3 +1,4 @@
+// Puts the parts in their order: the toolkit first, what draws after it, what uses the windows last.
 #include "platform/qt/QtApplication.h"
 
 #include <QApplication>
@@ -65,10 +66,9 @@ QtApplication::QtApplication(int& argc, char** argv, Desktop& desktop, const Fil
     QApplication::installTranslator(&parts_->toolkitGerman);
   SetRtfPreview(parts_->preview.get());
   QObject::connect(&parts_->theme, &Theme::Changed, &parts_->windows, &QtDesktop::ThemeChanged);
-  QObject::connect(&application, &QGuiApplication::applicationStateChanged, &parts_->windows,
-                   [&desktop](Qt::ApplicationState state) {
-                     desktop.SetApplicationActive(state == Qt::ApplicationActive);
-                   });
+  QObject::connect(
+      &application, &QGuiApplication::applicationStateChanged, &parts_->windows,
+      [&desktop](Qt::ApplicationState state) { desktop.SetApplicationActive(state == Qt::ApplicationActive); });
 }
 
 QtApplication::~QtApplication() { SetRtfPreview(nullptr); }

@@ -1,5 +1,5 @@
-// The program with its windows: sets up the toolkit, the look, the German texts, the windows over a desktop, the real clock,
-// and the surroundings. The main makes one, then the screens, then calls Run.
+// The program with its windows: sets up the toolkit, the look, the German texts, the windows over a desktop, the real
+// clock, and the surroundings. The main makes one, then the screens, then calls Run.
 #pragma once
 
 #include <functional>

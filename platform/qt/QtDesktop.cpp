@@ -1,3 +1,4 @@
+// Windows come and go with their screens; focus goes to the core first and from there to the widgets.
 #include "platform/qt/QtDesktop.h"
 
 #include "platform/Screen.h"
@@ -82,16 +83,25 @@ void QtDesktop::OnScreen(Screen& screen, ScreenEvent event) {
   ScreenWindow* window = WindowOf(screen);
   if (window == nullptr) return;
   switch (event) {
-    case ScreenEvent::Loaded: break;
+    case ScreenEvent::Loaded:
+      break;
     case ScreenEvent::Shown:
       window->Appear();
       BringForward(*window);
       break;
     case ScreenEvent::Hidden:
-    case ScreenEvent::Unloaded: OnGone(screen); break;
-    case ScreenEvent::Caption: window->ShowCaption(); break;
-    case ScreenEvent::Front: BringForward(*window); break;
-    case ScreenEvent::FocusMoved: SyncFocus(); break;
+    case ScreenEvent::Unloaded:
+      OnGone(screen);
+      break;
+    case ScreenEvent::Caption:
+      window->ShowCaption();
+      break;
+    case ScreenEvent::Front:
+      BringForward(*window);
+      break;
+    case ScreenEvent::FocusMoved:
+      SyncFocus();
+      break;
   }
 }
 

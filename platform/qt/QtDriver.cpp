@@ -1,3 +1,4 @@
+// Sends the events that hands would cause, after everything that waits to be drawn has been drawn.
 #include "platform/qt/QtDriver.h"
 
 #include <QApplication>
@@ -136,7 +137,8 @@ void QtDriver::Click(Control& control) {
     case ControlKind::TextBox:
       if (binding != nullptr) return ClickAt(*binding->Widget(), binding->Widget()->rect().center());
       break;
-    default: break;
+    default:
+      break;
   }
   direct_.Click(control);
 }

@@ -1,5 +1,6 @@
-// The operator's hands at the real windows: clicks, typing and keys reach the widgets as events, and the controls through
-// them. What cannot be reached by hand at the moment (a page of tabs that is not open) is done at the control itself.
+// The operator's hands at the real windows: clicks, typing and keys reach the widgets as events, and the controls
+// through them. What cannot be reached by hand at the moment (a page of tabs that is not open) is done at the control
+// itself.
 #pragma once
 
 #include <memory>

@@ -1,3 +1,4 @@
+// Each dialog of the program by the toolkit's; paths become machine paths here, nothing is run by a shell.
 #include "platform/qt/QtPlatform.h"
 
 #include <QApplication>
@@ -29,7 +30,8 @@ QString FilterText(std::string_view filter) {
   const QStringList parts = ToQt(filter).split(QLatin1Char('|'));
   QStringList filters;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
-    filters.append(QStringLiteral("%1 (%2)").arg(parts[i], QString(parts[i + 1]).replace(';', ' ').replace("*.*", "*")));
+    filters.append(
+        QStringLiteral("%1 (%2)").arg(parts[i], QString(parts[i + 1]).replace(';', ' ').replace("*.*", "*")));
   return filters.join(QStringLiteral(";;"));
 }
 
@@ -91,7 +93,9 @@ QWidget* QtPlatform::Parent() const {
   return window == nullptr ? nullptr : &window->Window();
 }
 
-QString QtPlatform::MachinePath(std::string_view path) const { return QString::fromStdString(files_.MachinePath(path)); }
+QString QtPlatform::MachinePath(std::string_view path) const {
+  return QString::fromStdString(files_.MachinePath(path));
+}
 
 Answer QtPlatform::Box(std::string_view text, std::string_view title, Buttons buttons) {
   windows_.CountModal();

@@ -1,5 +1,5 @@
-// The real surroundings: dialogs over the windows, the clock of the machine, the event loop, sound, mail and whatever else
-// the desktop offers.
+// The real surroundings: dialogs over the windows, the clock of the machine, the event loop, sound, mail and whatever
+// else the desktop offers.
 #pragma once
 
 #include <QString>
@@ -18,7 +18,8 @@ class QtDesktop;
 
 class QtPlatform final : public Platform {
  public:
-  // `programFolder` is a path in the program's form with its closing backslash. All that is referred to must outlive the object.
+  // `programFolder` is a path in the program's form with its closing backslash. All that is referred to must outlive
+  // the object.
   QtPlatform(QtDesktop& windows, const FileSystemObject& files, std::string programFolder);
   ~QtPlatform() override;
 

@@ -1,3 +1,4 @@
+// Windows-1252 against UTF-16, character by character with the table of the core.
 #include "platform/qt/QtText.h"
 
 #include <QList>

@@ -1,3 +1,4 @@
+// One clockwork a timer, made when it is first heard of and kept.
 #include "platform/qt/QtTimers.h"
 
 #include "platform/Screen.h"

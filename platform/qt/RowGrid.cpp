@@ -1,5 +1,7 @@
+// The elements of each array are collected once after a change of size; scrolling only ties anew.
 #include "platform/qt/RowGrid.h"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,6 +17,7 @@ namespace kontorwerk {
 namespace {
 
 constexpr int kSpacing = 4;
+constexpr int kIconSide = 16;
 
 }  // namespace
 
@@ -26,7 +29,7 @@ RowGrid::RowGrid(Screen& screen, QWidget& place, const RowTemplate& row, FormLoa
   auto* grid = new QGridLayout(&place);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(kSpacing);
-  grid->setVerticalSpacing(kSpacing);
+  grid->setVerticalSpacing(kSpacing / 2);
   for (int i = 0; i < rows_; ++i) BuildRow(i, place, row, loader, host);
   grid->setRowStretch(rows_ + 1, 1);
   elements_.resize(names_.size());
@@ -50,6 +53,12 @@ void RowGrid::BuildRow(int row, QWidget& place, const RowTemplate& description, 
       label->setProperty("role", QStringLiteral("list-title"));
       grid->addWidget(label, 0, column);
     }
+    // Rows that do not exist keep their room: the window stands still while rows come and go.
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(policy);
+    widget->setProperty("rowCell", true);
+    if (auto* button = qobject_cast<QAbstractButton*>(widget)) button->setIconSize({kIconSide, kIconSide});
     grid->addWidget(widget, row + 1, column);
     grid->setColumnStretch(column, stretch);
     std::unique_ptr<Binding> binding = MakeBinding(widget, host);
@@ -59,7 +68,9 @@ void RowGrid::BuildRow(int row, QWidget& place, const RowTemplate& description, 
   }
 }
 
-bool RowGrid::Holds(std::string_view array) const { return std::find(names_.begin(), names_.end(), array) != names_.end(); }
+bool RowGrid::Holds(std::string_view array) const {
+  return std::find(names_.begin(), names_.end(), array) != names_.end();
+}
 
 Binding* RowGrid::BindingOf(const Control& element) const {
   const int row = element.Index() - top_;

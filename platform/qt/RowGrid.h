@@ -48,9 +48,9 @@ class RowGrid final : public QObject {
 
   Screen& screen_;
   RangeControl* scroll_ = nullptr;
-  std::vector<std::string> names_;                // of the arrays, in the order of the columns
-  std::vector<std::vector<Control*>> elements_;   // of each array
-  std::vector<std::unique_ptr<Binding>> cells_;   // row by row
+  std::vector<std::string> names_;               // of the arrays, in the order of the columns
+  std::vector<std::vector<Control*>> elements_;  // of each array
+  std::vector<std::unique_ptr<Binding>> cells_;  // row by row
   int rows_ = 0;
   int top_ = 0;  // the element of the first row in view
   bool stale_ = true;

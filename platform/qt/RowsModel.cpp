@@ -1,3 +1,4 @@
+// Reads the control at each question; between a change and its showing, rows that are gone read as empty.
 #include "platform/qt/RowsModel.h"
 
 #include "platform/ListView.h"
@@ -58,11 +59,13 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
       const auto& colour = list_->Rows()[static_cast<std::size_t>(row - 1)].colour;
       return colour ? QVariant(Theme::ShownText(*colour)) : QVariant();
     }
-    case Qt::TextAlignmentRole: return QVariant::fromValue(AlignmentOf(index.column()));
+    case Qt::TextAlignmentRole:
+      return QVariant::fromValue(AlignmentOf(index.column()));
     case Qt::CheckStateRole:
       if (!list_->HasTicks() || index.column() != 0) return {};
       return list_->Ticked(row) ? Qt::Checked : Qt::Unchecked;
-    default: return {};
+    default:
+      return {};
   }
 }
 

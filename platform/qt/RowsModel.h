@@ -38,8 +38,8 @@ class RowsModel final : public QAbstractTableModel {
   [[nodiscard]] Qt::Alignment AlignmentOf(int shown) const;
 
   const ListView* list_ = nullptr;
-  int rows_ = 0;          // that the views know of
-  QList<int> columns_;    // of the control, from 1, that are shown
+  int rows_ = 0;        // that the views know of
+  QList<int> columns_;  // of the control, from 1, that are shown
   QString alignments_;
 };
 

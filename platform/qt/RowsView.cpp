@@ -1,3 +1,4 @@
+// Mouse and drawing of a list; nothing here changes a row or the selection by itself.
 #include "platform/qt/RowsView.h"
 
 #include <QApplication>

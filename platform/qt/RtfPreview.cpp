@@ -1,3 +1,5 @@
+// The document goes through the renderer and pdftoppm in a thread of its own, one at a time; newer requests drop
+// those that wait.
 #include "platform/qt/RtfPreview.h"
 
 #include <QDir>
@@ -23,11 +25,10 @@ QList<QImage> DrawPages(const std::string& pdf) {
   const std::string file = folder.filePath(QStringLiteral("pages.pdf")).toStdString();
   if (program.empty() || !folder.isValid() || !WriteWholeFile(file, pdf)) return {};
   const std::string target = folder.filePath(QStringLiteral("page")).toStdString();
-  const ProcessResult result =
-      RunProcess({.arguments = {program, "-png", "-r", std::to_string(kDotsPerInch), "-l", std::to_string(kMostPages),
-                                file, target},
-                  .environment = {},
-                  .folder = {}});
+  const ProcessResult result = RunProcess({.arguments = {program, "-png", "-r", std::to_string(kDotsPerInch), "-l",
+                                                         std::to_string(kMostPages), file, target},
+                                           .environment = {},
+                                           .folder = {}});
   if (result.end != ProcessEnd::Exited || result.exitCode != 0) return {};
   QList<QImage> pages;
   for (const QString& name : QDir(folder.path()).entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name))
@@ -67,7 +68,9 @@ class PdfPreview final : public RtfPreview {
 
 }  // namespace
 
-std::unique_ptr<RtfPreview> MakePdfPreview(DocumentRenderer& renderer) { return std::make_unique<PdfPreview>(renderer); }
+std::unique_ptr<RtfPreview> MakePdfPreview(DocumentRenderer& renderer) {
+  return std::make_unique<PdfPreview>(renderer);
+}
 
 void SetRtfPreview(RtfPreview* preview) { currentPreview = preview; }
 

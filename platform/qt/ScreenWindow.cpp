@@ -1,3 +1,4 @@
+// Builds and ties the window, and sorts the events of its widgets: presses, keys, wheel, hover, close.
 #include "platform/qt/ScreenWindow.h"
 
 #include <QAbstractButton>
@@ -66,7 +67,7 @@ ScreenWindow::~ScreenWindow() {
 
 void ScreenWindow::Build(const FormFile& form) {
   FormLoader loader;
-  std::unique_ptr<QWidget> root = loader.Build(form.Xml());
+  std::unique_ptr<QWidget> root = form.Error().isEmpty() ? loader.Build(form.Xml()) : nullptr;
   if (auto* window = qobject_cast<QMainWindow*>(root.get())) {
     (void)root.release();
     window_.reset(window);
@@ -247,19 +248,25 @@ bool ScreenWindow::eventFilter(QObject* object, QEvent* event) {
   if (binding == nullptr || binding->Bound() == nullptr) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: return OnPress(*binding, static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseButtonDblClick:
+      return OnPress(*binding, static_cast<QMouseEvent&>(*event));
     case QEvent::MouseButtonRelease:
       OnRelease(*binding, *object, static_cast<QMouseEvent&>(*event));
       return false;
-    case QEvent::KeyPress: return OnKeyPress(*binding, *object, static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyPress:
+      return OnKeyPress(*binding, *object, static_cast<QKeyEvent&>(*event));
     case QEvent::FocusIn:
       // The letter of a label beside the field.
       if (static_cast<QFocusEvent*>(event)->reason() == Qt::ShortcutFocusReason) Take(*binding->Bound());
       return false;
     case QEvent::Enter:
-    case QEvent::MouseMove: OnHover(*binding); return false;
-    case QEvent::Wheel: return OnWheel(*object, static_cast<QWheelEvent&>(*event));
-    default: return false;
+    case QEvent::MouseMove:
+      OnHover(*binding);
+      return false;
+    case QEvent::Wheel:
+      return OnWheel(*object, static_cast<QWheelEvent&>(*event));
+    default:
+      return false;
   }
 }
 
@@ -270,10 +277,15 @@ bool ScreenWindow::OnWindowEvent(QEvent& event) {
       event.ignore();
       screen_.Close();
       return true;
-    case QEvent::WindowActivate: desktop_.OnActivated(*this); return false;
-    case QEvent::KeyPress: return OnLostKey(static_cast<QKeyEvent&>(event));
-    case QEvent::Wheel: return OnWheel(*window_, static_cast<QWheelEvent&>(event));
-    default: return false;
+    case QEvent::WindowActivate:
+      desktop_.OnActivated(*this);
+      return false;
+    case QEvent::KeyPress:
+      return OnLostKey(static_cast<QKeyEvent&>(event));
+    case QEvent::Wheel:
+      return OnWheel(*window_, static_cast<QWheelEvent&>(event));
+    default:
+      return false;
   }
 }
 
@@ -351,7 +363,8 @@ bool ScreenWindow::OnLostKey(const QKeyEvent& event) {
 
 bool ScreenWindow::OnWheel(QObject& object, QWheelEvent& event) {
   // Passing over a closed combo box with the wheel changes nothing.
-  if (const auto* combo = qobject_cast<QComboBox*>(&object); combo != nullptr && (!combo->hasFocus() || !grids_.empty())) {
+  if (const auto* combo = qobject_cast<QComboBox*>(&object);
+      combo != nullptr && (!combo->hasFocus() || !grids_.empty())) {
     event.ignore();
     return true;
   }

@@ -1,3 +1,4 @@
+// Texts both ways, byte for byte; a text of many lines has CR LF between them in the control.
 #include "platform/qt/TextBindings.h"
 
 #include <QImage>

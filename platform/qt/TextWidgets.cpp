@@ -1,3 +1,4 @@
+// One test for all ways into a field: keys, input methods, the clipboard, drag and drop.
 #include "platform/qt/TextWidgets.h"
 
 #include <QApplication>

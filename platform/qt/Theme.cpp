@@ -1,3 +1,4 @@
+// The two sets of colours, the palette made of them, and the sheet with its marks filled in.
 #include "platform/qt/Theme.h"
 
 #include <QApplication>
@@ -22,35 +23,76 @@ constexpr uint kPortalDark = 1;  // 0 is no preference
 constexpr uint kPortalLight = 2;
 
 const ThemeColours& LightColours() {
-  static const ThemeColours colours = {
-      .window = "#F4F6F7", .surface = "#FFFFFF", .raised = "#EDF0F2", .hover = "#E6EBED", .pressed = "#D9E0E3",
-      .alternate = "#F8FAFA", .border = "#DCE1E5", .strongBorder = "#B4BDC5", .text = "#1B2329", .muted = "#56626C",
-      .disabled = "#98A2AB", .accent = "#0F6E6E", .accentHover = "#0C5F5F", .accentPressed = "#0A4F4F",
-      .onAccent = "#FFFFFF", .accentSoft = "#D8ECEB", .danger = "#B3261E", .dangerSoft = "#FBE9E7",
-      .warning = "#B7791F", .warningSoft = "#FDF3DC"};
+  static const ThemeColours colours = {.window = "#F4F6F7",
+                                       .surface = "#FFFFFF",
+                                       .raised = "#EDF0F2",
+                                       .hover = "#E6EBED",
+                                       .pressed = "#D9E0E3",
+                                       .alternate = "#F8FAFA",
+                                       .border = "#DCE1E5",
+                                       .strongBorder = "#B4BDC5",
+                                       .text = "#1B2329",
+                                       .muted = "#56626C",
+                                       .disabled = "#98A2AB",
+                                       .accent = "#0F6E6E",
+                                       .accentHover = "#0C5F5F",
+                                       .accentPressed = "#0A4F4F",
+                                       .onAccent = "#FFFFFF",
+                                       .accentSoft = "#D8ECEB",
+                                       .danger = "#B3261E",
+                                       .dangerSoft = "#FBE9E7",
+                                       .warning = "#B7791F",
+                                       .warningSoft = "#FDF3DC"};
   return colours;
 }
 
 const ThemeColours& DarkColours() {
-  static const ThemeColours colours = {
-      .window = "#181C1F", .surface = "#20262A", .raised = "#293036", .hover = "#323B41", .pressed = "#3C464D",
-      .alternate = "#242B2F", .border = "#363F46", .strongBorder = "#55616A", .text = "#E8ECEE", .muted = "#A5B0B8",
-      .disabled = "#6C7780", .accent = "#4FB8B0", .accentHover = "#67C6BF", .accentPressed = "#3FA49C",
-      .onAccent = "#0B2422", .accentSoft = "#234744", .danger = "#FF8A80", .dangerSoft = "#472623",
-      .warning = "#E0A83C", .warningSoft = "#41351C"};
+  static const ThemeColours colours = {.window = "#181C1F",
+                                       .surface = "#20262A",
+                                       .raised = "#293036",
+                                       .hover = "#323B41",
+                                       .pressed = "#3C464D",
+                                       .alternate = "#242B2F",
+                                       .border = "#363F46",
+                                       .strongBorder = "#55616A",
+                                       .text = "#E8ECEE",
+                                       .muted = "#A5B0B8",
+                                       .disabled = "#6C7780",
+                                       .accent = "#4FB8B0",
+                                       .accentHover = "#67C6BF",
+                                       .accentPressed = "#3FA49C",
+                                       .onAccent = "#0B2422",
+                                       .accentSoft = "#234744",
+                                       .danger = "#FF8A80",
+                                       .dangerSoft = "#472623",
+                                       .warning = "#E0A83C",
+                                       .warningSoft = "#41351C"};
   return colours;
 }
 
 Theme::Tone currentTone = Theme::Tone::Light;
 
 QHash<QString, QColor> NamedColours(const ThemeColours& colours) {
-  return {{"window", colours.window}, {"surface", colours.surface}, {"raised", colours.raised},
-          {"hover", colours.hover}, {"pressed", colours.pressed}, {"alternate", colours.alternate},
-          {"border", colours.border}, {"strongBorder", colours.strongBorder}, {"text", colours.text},
-          {"muted", colours.muted}, {"disabled", colours.disabled}, {"accent", colours.accent},
-          {"accentHover", colours.accentHover}, {"accentPressed", colours.accentPressed},
-          {"onAccent", colours.onAccent}, {"accentSoft", colours.accentSoft}, {"danger", colours.danger},
-          {"dangerSoft", colours.dangerSoft}, {"warning", colours.warning}, {"warningSoft", colours.warningSoft}};
+  return {{"window", colours.window},
+          {"surface", colours.surface},
+          {"raised", colours.raised},
+          {"hover", colours.hover},
+          {"pressed", colours.pressed},
+          {"alternate", colours.alternate},
+          {"border", colours.border},
+          {"strongBorder", colours.strongBorder},
+          {"text", colours.text},
+          {"muted", colours.muted},
+          {"disabled", colours.disabled},
+          {"accent", colours.accent},
+          {"accentHover", colours.accentHover},
+          {"accentPressed", colours.accentPressed},
+          {"onAccent", colours.onAccent},
+          {"accentSoft", colours.accentSoft},
+          {"danger", colours.danger},
+          {"dangerSoft", colours.dangerSoft},
+          {"warning", colours.warning},
+          {"warningSoft", colours.warningSoft}};
 }
 
 QPalette PaletteOf(const ThemeColours& colours) {
@@ -109,24 +151,32 @@ class KontorwerkStyle final : public QProxyStyle {
     switch (hint) {
       case SH_EtchDisabledText:
       case SH_ComboBox_Popup:
-      case SH_DitherDisabledText: return 0;
-      case SH_UnderlineShortcut: return 1;
-      case SH_DialogButtonBox_ButtonsHaveIcons: return 0;
-      default: return QProxyStyle::styleHint(hint, option, widget, result);
+      case SH_DitherDisabledText:
+        return 0;
+      case SH_UnderlineShortcut:
+        return 1;
+      case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, result);
     }
   }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
     switch (metric) {
       case PM_ButtonIconSize:
-      case PM_SmallIconSize: return 18;
+      case PM_SmallIconSize:
+        return 18;
       case PM_LayoutHorizontalSpacing:
-      case PM_LayoutVerticalSpacing: return 8;
+      case PM_LayoutVerticalSpacing:
+        return 8;
       case PM_LayoutLeftMargin:
       case PM_LayoutTopMargin:
       case PM_LayoutRightMargin:
-      case PM_LayoutBottomMargin: return 8;
-      default: return QProxyStyle::pixelMetric(metric, option, widget);
+      case PM_LayoutBottomMargin:
+        return 8;
+      default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
     }
   }
 };
@@ -138,10 +188,9 @@ Theme::Theme(QApplication& application) : application_(application) {
   application.setStyle(new KontorwerkStyle);
   Apply();
   application.installEventFilter(this);
-  QDBusConnection::sessionBus().connect(QString(), QStringLiteral("/org/freedesktop/portal/desktop"),
-                                        QStringLiteral("org.freedesktop.portal.Settings"),
-                                        QStringLiteral("SettingChanged"), this,
-                                        SLOT(OnDesktopSetting(QString, QString)));
+  QDBusConnection::sessionBus().connect(
+      QString(), QStringLiteral("/org/freedesktop/portal/desktop"), QStringLiteral("org.freedesktop.portal.Settings"),
+      QStringLiteral("SettingChanged"), this, SLOT(OnDesktopSetting(QString, QString)));
 }
 
 Theme::~Theme() = default;
@@ -183,8 +232,8 @@ Theme::Tone Theme::DesktopTone() const {
                         QStringLiteral("org.freedesktop.portal.Settings"));
   if (!portal.isValid()) return startTone_;
   portal.setTimeout(kPortalAnswerMs);
-  const QDBusReply<QDBusVariant> reply = portal.call(QStringLiteral("Read"), QStringLiteral("org.freedesktop.appearance"),
-                                                     QStringLiteral("color-scheme"));
+  const QDBusReply<QDBusVariant> reply =
+      portal.call(QStringLiteral("Read"), QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"));
   if (!reply.isValid()) return startTone_;
   QVariant value = reply.value().variant();
   if (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();

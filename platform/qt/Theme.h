@@ -1,5 +1,5 @@
-// The look of all windows: one set of colours for a light and one for a dark desktop, the sheet of rules that uses them,
-// and the style beneath. It follows the desktop while the program runs; KONTORWERK_THEME=light or dark fixes it.
+// The look of all windows: one set of colours for a light and one for a dark desktop, the sheet of rules that uses
+// them, and the style beneath. It follows the desktop while the program runs; KONTORWERK_THEME=light or dark fixes it.
 #pragma once
 
 #include <QColor>
@@ -14,22 +14,22 @@ class QApplication;
 namespace kontorwerk {
 
 struct ThemeColours {
-  QColor window;         // behind everything
-  QColor surface;        // fields, lists, cards
-  QColor raised;         // buttons, headers
+  QColor window;   // behind everything
+  QColor surface;  // fields, lists, cards
+  QColor raised;   // buttons, headers
   QColor hover;
   QColor pressed;
-  QColor alternate;      // every second row
+  QColor alternate;  // every second row
   QColor border;
-  QColor strongBorder;   // of fields and buttons
+  QColor strongBorder;  // of fields and buttons
   QColor text;
-  QColor muted;          // help, hints
+  QColor muted;  // help, hints
   QColor disabled;
   QColor accent;
   QColor accentHover;
   QColor accentPressed;
-  QColor onAccent;       // text on the accent
-  QColor accentSoft;     // selected rows, the open centre
+  QColor onAccent;    // text on the accent
+  QColor accentSoft;  // selected rows, the open centre
   QColor danger;
   QColor dangerSoft;
   QColor warning;

@@ -106,6 +106,17 @@ TEST_F(CalendarTest, AppointmentsOfOtherOrdersAreLockedInAnOrdersContext) {
   EXPECT_TRUE(Calendar().Command2.Enabled());
 }
 
+TEST_F(CalendarTest, TheWayBackToAnOrderIsNamedOnlyWhileThereIsOne) {
+  Appointment appointment;
+  appointment.date = "15.11.2026";
+  appointment.begin = "09:00";
+  appointment.end = "10:00";
+  Calendar().EditForOrder(appointment, {"0001000", "", "", ""});
+  EXPECT_EQ(Calendar().CancelButton.Caption(), "Zurück"_t);
+  Calendar().OpenAt(kDay);
+  EXPECT_EQ(Calendar().CancelButton.Caption(), "Beenden");
+}
+
 TEST_F(CalendarTest, NewAppointmentTakesDayTimeAndOrder) {
   Calendar().OpenForOrder(kDay, {"0001000", "", "", ""});
   Calendar().ListView.UserClick(RowOf(16, 30));

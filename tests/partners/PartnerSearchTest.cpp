@@ -18,7 +18,7 @@ class PartnerSearching : public PartnerDesk {
                                            {4, "78000"},
                                            {5, "Musterstadt"},
                                            {partner::kEmail, "info@meier.example"},
-                                           {partner::kHomepage, "http://meier.example"},
+                                           {partner::kHomepage, "www.meier.example"},
                                            {partner::ContactName(3), "Frau Drei"},
                                            {partner::ContactEmail(3), "drei@meier.example"}}) +
                  LineWith(CustomerKind(), {{1, "00101"}, {2, "Äpfel Huber"_t}}));
@@ -180,7 +180,7 @@ TEST_F(PartnerSearching, MailAndWebGoThroughThePlatform) {
   EXPECT_NE(Events().find("\"to\": [\"info@meier.example\"]"), std::string::npos) << Events();
   EXPECT_NE(Events().find("\"to\": [\"drei@meier.example\"]"), std::string::npos);
   const std::size_t blank = Events().find("\"target\": \"about:blank\"");
-  const std::size_t page = Events().find("\"target\": \"http://meier.example\"");
+  const std::size_t page = Events().find("\"target\": \"www.meier.example\"");
   ASSERT_NE(page, std::string::npos);
   EXPECT_LT(blank, page);
 }

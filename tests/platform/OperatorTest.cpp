@@ -1,4 +1,5 @@
-// The operator's language, played over a small screen. The operator ends its process, so each script runs in a death test.
+// The operator's language, played over a small screen. The operator ends its process, so each script runs in a death
+// test.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -109,7 +110,8 @@ TEST(Operator, CountsExpectationsAndGoesOnAfterAFailure) {
 
 TEST(Operator, ReadsTypesAndCompares) {
   ExpectRun(
-      "start\nset StartForm.First \"Gruß\"\ntype StartForm.First \" aus Köln\"\nexpect StartForm.First \"Gruß aus Köln\"\n"
+      "start\nset StartForm.First \"Gruß\"\ntype StartForm.First \" aus Köln\"\nexpect StartForm.First \"Gruß aus "
+      "Köln\"\n"
       "set StartForm.Straße \"a\\\"b\\\\c\\r\\n\"\nexpect StartForm.Straße.text \"a\\\"b\\\\c\\r\\n\"\n",
       0, "2 passed, 0 failed");
 }
@@ -135,15 +137,16 @@ TEST(Operator, AQuestionNeedsAnAnswerOfItsKind) {
   ExpectRun("start\nclick StartForm.Command1\n", 2, "no answer is waiting");
   ExpectRun("start\nanswer OK\nclick StartForm.Command1\n", 2, "no button");
   ExpectRun("start\nanswer folder /tmp\nclick StartForm.Command1\n", 2, "wrong kind");
-  ExpectRun("start\nanswer Ja\nclick StartForm.Command1\nexpect-box \"Weiter?\"\nexpect-title Frage\nexpect-boxes 1\n", 0,
-            "\"buttons\": \\[\"Ja\", \"Nein\"\\], \"answer\": \"Ja\"");
+  ExpectRun("start\nanswer Ja\nclick StartForm.Command1\nexpect-box \"Weiter?\"\nexpect-title Frage\nexpect-boxes 1\n",
+            0, "\"buttons\": \\[\"Ja\", \"Nein\"\\], \"answer\": \"Ja\"");
   ExpectRun("answer Ja\n", 2, "answers are left over");
 }
 
 TEST(Operator, NoBoxYetIsAnEmptyText) { ExpectRun("expect-box \"\"\nexpect-boxes 0\n", 0, "2 passed, 0 failed"); }
 
 TEST(Operator, AWaitRunsTheNextLines) {
-  ExpectRun("start\nclick StartForm.Entry\nset StartForm.First da\nexpect StartForm.First da\n", 0, "1 passed, 0 failed");
+  ExpectRun("start\nclick StartForm.Entry\nset StartForm.First da\nexpect StartForm.First da\n", 0,
+            "1 passed, 0 failed");
   ExpectRun("start\nclick StartForm.Entry\n", 2, "ended inside a wait");
 }
 
@@ -169,7 +172,8 @@ TEST(Operator, AfterTheProgramHasEndedOnlyExpectationsRun) {
 TEST(Operator, RowsAreReadWithoutHiddenColumns) {
   ExpectRun(
       "start\nexpect StartForm.List.rows 2\nexpect StartForm.List.row(2) \"Müller|Köln\"\n"
-      "expect StartForm.List.columns \"Name|Ort\"\nselect StartForm.List \"Müller\"\nexpect StartForm.List.selected 2\n",
+      "expect StartForm.List.columns \"Name|Ort\"\nselect StartForm.List \"Müller\"\nexpect StartForm.List.selected "
+      "2\n",
       0, "4 passed, 0 failed");
 }
 
@@ -191,7 +195,9 @@ TEST(Operator, FilesAreWrittenAndComparedByTheirBytes) {
   std::filesystem::remove_all(folder);
 }
 
-TEST(Operator, ScriptsOutsideTheCodePageAreRefused) { ExpectRun("# ok\nset StartForm.First \"\xE4\xBD\xA0\"\n", 2, "\"line\": 2"); }
+TEST(Operator, ScriptsOutsideTheCodePageAreRefused) {
+  ExpectRun("# ok\nset StartForm.First \"\xE4\xBD\xA0\"\n", 2, "\"line\": 2");
+}
 
 TEST(Operator, QuotesMustBeClosed) {
   ExpectRun("write a \"b\n", 2, "a quote is not closed");
@@ -199,16 +205,29 @@ TEST(Operator, QuotesMustBeClosed) {
 }
 
 TEST(Operator, AnUnquotedTextNamesAnEntryToo) {
-  ExpectRun("start\nchoose StartForm.Combo zwei\nexpect StartForm.Combo.listindex 1\nselect StartForm.List Meier\n"
-            "expect StartForm.List.selected 1\n",
-            0, "2 passed, 0 failed");
+  ExpectRun(
+      "start\nchoose StartForm.Combo zwei\nexpect StartForm.Combo.listindex 1\nselect StartForm.List Meier\n"
+      "expect StartForm.List.selected 1\n",
+      0, "2 passed, 0 failed");
   ExpectRun("start\nchoose StartForm.Combo drei\n", 2, "unknown entry: drei");
   ExpectRun("start\nselect StartForm.List -1\n", 2, "unknown row: -1");
 }
 
+TEST(Operator, ListsAndBoxesAreWorkedAlike) {
+  ExpectRun(
+      "start\nchoose StartForm.List 1\nexpect StartForm.List.selected 2\nexpect StartForm.List.listindex 1\n"
+      "expect StartForm.List.list \"Meier|Müller\"\nselect StartForm.Combo 2\nexpect StartForm.Combo zwei\n"
+      "expect StartForm.Combo.selected 2\nexpect StartForm.Combo.rows 2\nexpect StartForm.Combo.row(1) eins\n"
+      "expect StartForm.Label1.text Ulm\nexpect StartForm.Second.caption \"\"\n",
+      0, "9 passed, 0 failed");
+  ExpectRun("start\nselect StartForm.Combo 3\n", 2, "unknown row: 3");
+  ExpectRun("start\nselect StartForm.First 1\n", 2, "a control of another kind");
+}
+
 TEST(Operator, DisabledAndLockedControlsCannotBeUsed) {
   const std::string disable = "start\nset StartForm.LGNr(0) a\nset StartForm.Second b\n";  // leaving disables Command1
-  ExpectRun(disable + "expect StartForm.Command1.enabled false\nclick StartForm.Command1\n", 2, "the control is disabled");
+  ExpectRun(disable + "expect StartForm.Command1.enabled false\nclick StartForm.Command1\n", 2,
+            "the control is disabled");
   ExpectRun(disable + "focus StartForm.Command1\n", 2, "the control is disabled");
   ExpectRun("start\nset StartForm.Straße a\n", 0, "0 passed");
   ExpectRun("start\nset StartForm.Notizen a\n", 2, "the control is disabled");
@@ -223,16 +242,18 @@ TEST(Operator, AControlThatTheLeftOneDisablesIsNotClicked) {
 }
 
 TEST(Operator, ARowIsClickedBeforeItsDoubleClick) {
-  ExpectRun("start\ndblclick StartForm.List 2\nexpect StartForm.First \"select;click;double;\"\n"
-            "expect StartForm.List.selected 2\ndblclick StartForm.List\n"
-            "expect StartForm.First \"select;click;double;double;\"\nexpect StartForm.focus List\n",
-            0, "4 passed, 0 failed");
+  ExpectRun(
+      "start\ndblclick StartForm.List 2\nexpect StartForm.First \"select;click;double;\"\n"
+      "expect StartForm.List.selected 2\ndblclick StartForm.List\n"
+      "expect StartForm.First \"select;click;double;double;\"\nexpect StartForm.focus List\n",
+      0, "4 passed, 0 failed");
 }
 
 TEST(Operator, RowsAreTickedByTheirNumber) {
-  ExpectRun("start\ntick StartForm.List 2 on\nexpect StartForm.List.ticked(2) true\nexpect StartForm.List.ticked(1) false\n"
-            "tick StartForm.List 2 off\nexpect StartForm.List.ticked(2) false\nexpect StartForm.First \"ticked;cleared;\"\n",
-            0, "4 passed, 0 failed");
+  ExpectRun(
+      "start\ntick StartForm.List 2 on\nexpect StartForm.List.ticked(2) true\nexpect StartForm.List.ticked(1) false\n"
+      "tick StartForm.List 2 off\nexpect StartForm.List.ticked(2) false\nexpect StartForm.First \"ticked;cleared;\"\n",
+      0, "4 passed, 0 failed");
   ExpectRun("start\ntick StartForm.List 2 yes\n", 2, "neither on nor off");
   ExpectRun("start\ntick StartForm.List 3 on\n", 2, "unknown row");
 }
@@ -244,19 +265,21 @@ TEST(Operator, HeadersAreCountedWithoutHiddenColumns) {
 }
 
 TEST(Operator, DaysAreClickedAndRead) {
-  ExpectRun("start\nexpect StartForm.Calendar.date 15.11.2026\nexpect StartForm.Calendar.bold(20.11.2026) true\n"
-            "expect StartForm.Calendar.bold(21.11.2026) false\ndate StartForm.Calendar 01.12.2026\n"
-            "expect StartForm.Calendar.date 01.12.2026\nexpect StartForm.First \"date;\"\nexpect StartForm.focus Calendar\n",
-            0, "6 passed, 0 failed");
+  ExpectRun(
+      "start\nexpect StartForm.Calendar.date 15.11.2026\nexpect StartForm.Calendar.bold(20.11.2026) true\n"
+      "expect StartForm.Calendar.bold(21.11.2026) false\ndate StartForm.Calendar 01.12.2026\n"
+      "expect StartForm.Calendar.date 01.12.2026\nexpect StartForm.First \"date;\"\nexpect StartForm.focus Calendar\n",
+      0, "6 passed, 0 failed");
   ExpectRun("start\ndate StartForm.Calendar 31.11.2026\n", 2, "no date");
 }
 
 TEST(Operator, KeysReachTheirControl) {
-  ExpectRun("start\nkey StartForm.LGNr(2) F5\nkey StartForm.LGNr(2) Ctrl+F5\nexpect StartForm.First \"F5;Ctrl+F5;\"\n"
-            "expect StartForm.focus LGNr(2)\nexpect StartForm.LGNr(2).focus true\nkey StartForm.List Down\n"
-            "expect StartForm.List.selected 1\nkey StartForm.List Down\nexpect StartForm.List.selected 2\n"
-            "expect StartForm.LGNr(2).focus false\n",
-            0, "6 passed, 0 failed");
+  ExpectRun(
+      "start\nkey StartForm.LGNr(2) F5\nkey StartForm.LGNr(2) Ctrl+F5\nexpect StartForm.First \"F5;Ctrl+F5;\"\n"
+      "expect StartForm.focus LGNr(2)\nexpect StartForm.LGNr(2).focus true\nkey StartForm.List Down\n"
+      "expect StartForm.List.selected 1\nkey StartForm.List Down\nexpect StartForm.List.selected 2\n"
+      "expect StartForm.LGNr(2).focus false\n",
+      0, "6 passed, 0 failed");
   ExpectRun("start\nanswer Nein\nkey StartForm.Command1 Enter\nexpect-boxes 1\n", 0, "1 passed, 0 failed");
   ExpectRun("start\nkey StartForm.First Hupe\n", 2, "unknown key");
 }
@@ -268,22 +291,28 @@ TEST(Operator, TheWheelTurnsOnAVisibleScreen) {
 }
 
 TEST(Operator, RandomNumbersComeInTurn) {
-  ExpectRun("start\nrandom 0.25\nclick StartForm.Netto\nexpect StartForm.First 0,25\nclick StartForm.Netto\n"
-            "expect StartForm.First 0,25\nrandom 0 1\nclick StartForm.Netto\nexpect StartForm.First 0\n"
-            "click StartForm.Netto\nexpect StartForm.First 1\nclick StartForm.Netto\nexpect StartForm.First 0\n",
-            0, "5 passed, 0 failed");
+  ExpectRun(
+      "start\nrandom 0.25\nclick StartForm.Netto\nexpect StartForm.First 0,25\nclick StartForm.Netto\n"
+      "expect StartForm.First 0,25\nrandom 0 1\nclick StartForm.Netto\nexpect StartForm.First 0\n"
+      "click StartForm.Netto\nexpect StartForm.First 1\nclick StartForm.Netto\nexpect StartForm.First 0\n",
+      0, "5 passed, 0 failed");
   ExpectRun("random 1.5\n", 2, "no number between 0 and 1");
   ExpectRun("random\n", 2, "an argument is missing");
 }
 
 TEST(Operator, EachDialogTakesAnAnswerOfItsKind) {
-  ExpectRun("start\nanswer printer \"Laser EG\" 2\nanswer file a.jpg b.jpg\nanswer folder D:\\Daten\nanswer colour 65280\n"
-            "click StartForm.Brutto\nexpect StartForm.First \"Laser EGx2 a.jpg b.jpg D:\\\\Daten 65280;\"\nexpect-boxes 0\n",
-            0, "\"event\": \"dialog\", \"kind\": \"file\", \"title\": \"Bild\", \"filter\": \"Bilder.\\*.jpg\", \"folder\": "
-               "\"C:..\", \"name\": \"\", \"answer\": \\[\"a.jpg\", \"b.jpg\"\\]");
-  ExpectRun("start\nanswer cancel\nanswer cancel\nanswer cancel\nanswer cancel\nclick StartForm.Brutto\n"
-            "expect StartForm.First \"no printer no folder no colour;\"\n",
-            0, "\"kind\": \"colour\", \"title\": \"\", \"filter\": \"\", \"folder\": \"\", \"name\": \"\", \"answer\": \"cancel\"");
+  ExpectRun(
+      "start\nanswer printer \"Laser EG\" 2\nanswer file a.jpg b.jpg\nanswer folder D:\\Daten\nanswer colour 65280\n"
+      "click StartForm.Brutto\nexpect StartForm.First \"Laser EGx2 a.jpg b.jpg D:\\\\Daten 65280;\"\nexpect-boxes 0\n",
+      0,
+      "\"event\": \"dialog\", \"kind\": \"file\", \"title\": \"Bild\", \"filter\": \"Bilder.\\*.jpg\", \"folder\": "
+      "\"C:..\", \"name\": \"\", \"answer\": \\[\"a.jpg\", \"b.jpg\"\\]");
+  ExpectRun(
+      "start\nanswer cancel\nanswer cancel\nanswer cancel\nanswer cancel\nclick StartForm.Brutto\n"
+      "expect StartForm.First \"no printer no folder no colour;\"\n",
+      0,
+      "\"kind\": \"colour\", \"title\": \"\", \"filter\": \"\", \"folder\": \"\", \"name\": \"\", \"answer\": "
+      "\"cancel\"");
   ExpectRun("start\nanswer printer Laser\nanswer folder a\nclick StartForm.Brutto\n", 2, "wrong kind for: file");
   ExpectRun("start\nanswer cancel\nclick StartForm.Command1\n", 2, "wrong kind");
   ExpectRun("start\nanswer Abbrechen\nclick StartForm.Command1\n", 2, "no button");
@@ -291,26 +320,43 @@ TEST(Operator, EachDialogTakesAnAnswerOfItsKind) {
 }
 
 TEST(Operator, ReadsEveryPropertyOfItsList) {
-  ExpectRun("start\nexpect StartForm.Label1 Ulm\nexpect StartForm.Label1.color \"#00ff00\"\n"
-            "expect StartForm.Label1.backcolor \"#ffffff\"\nexpect StartForm.Label1.tooltip Wohnort\n"
-            "expect StartForm.First.color \"\"\nexpect StartForm.List.rowcolor(2) \"#ff0000\"\n"
-            "expect StartForm.List.rowcolor(1) \"\"\nexpect StartForm.StatusBar1.panel(4) \"bereit\"\n"
-            "expect StartForm.StatusBar1.panel(1) \"\"\nexpect StartForm.Check1 0\nexpect StartForm.Netto false\n"
-            "expect StartForm.Entry.value 0\nexpect StartForm.Combo.listindex -1\nexpect StartForm.caption Probe\n"
-            "expect StartForm.List.row(9) \"\"\n",
-            0, "15 passed, 0 failed");
+  ExpectRun(
+      "start\nexpect StartForm.Label1 Ulm\nexpect StartForm.Label1.color \"#00ff00\"\n"
+      "expect StartForm.Label1.backcolor \"#ffffff\"\nexpect StartForm.Label1.tooltip Wohnort\n"
+      "expect StartForm.First.color \"\"\nexpect StartForm.List.rowcolor(2) \"#ff0000\"\n"
+      "expect StartForm.List.rowcolor(1) \"\"\nexpect StartForm.StatusBar1.panel(4) \"bereit\"\n"
+      "expect StartForm.StatusBar1.panel(1) \"\"\nexpect StartForm.Check1 0\nexpect StartForm.Netto false\n"
+      "expect StartForm.Entry.value 0\nexpect StartForm.Combo.listindex -1\nexpect StartForm.caption Probe\n"
+      "expect StartForm.List.row(9) \"\"\n",
+      0, "15 passed, 0 failed");
 }
 
 TEST(Operator, APanelIsToldWhenItsTextChanges) {
   ExpectRun("start\n", 0,
-            "\"event\": \"panel\", \"screen\": \"StartForm\", \"control\": \"StatusBar1\", \"panel\": 4, \"text\": \"bereit\"");
+            "\"event\": \"panel\", \"screen\": \"StartForm\", \"control\": \"StatusBar1\", \"panel\": 4, \"text\": "
+            "\"bereit\"");
 }
 
 TEST(Operator, OneControlHasTheFocusFromTheShowOn) {
-  ExpectRun("start\nfocus StartForm.Second\nexpect StartForm.Second.focus true\nshow Hidden\n"
-            "expect StartForm.Second.focus false\nfocus Hidden.First\nexpect Hidden.First.focus true\n"
-            "expect StartForm.focus Second\nclose Hidden\nexpect Hidden.First.focus false\n",
-            0, "5 passed, 0 failed");
+  ExpectRun(
+      "start\nfocus StartForm.Second\nexpect StartForm.Second.focus true\nshow Hidden\n"
+      "expect StartForm.Second.focus false\nfocus Hidden.First\nexpect Hidden.First.focus true\n"
+      "expect StartForm.focus Second\nclose Hidden\nexpect Hidden.First.focus false\n",
+      0, "5 passed, 0 failed");
+}
+
+TEST(Operator, AClickOnAnotherScreensMenuLeavesTheControl) {
+  const std::string script = "start\nshow Hidden\nfocus Hidden.First\nset StartForm.Second falsch\nclick Hidden.";
+  ExpectRun(
+      script + "Entry\nexpect-box \"Falsch!\"\nexpect StartForm.focus Second\nexpect StartForm.Second.focus true\n", 0,
+      "3 passed, 0 failed");
+  ExpectRun(script + "Label1\nexpect-boxes 1\n", 0, "1 passed, 0 failed");
+  ExpectRun(
+      "start\nshow Hidden\nfocus Hidden.First\nset StartForm.Second gut\nclick Hidden.Label1\nexpect-boxes 0\nexpect "
+      "StartForm.Second.focus "
+      "false\n",
+      0, "2 passed, 0 failed");
+  ExpectRun("start\nset StartForm.Second falsch\nclick StartForm.Label1\nexpect-boxes 0\n", 0, "1 passed, 0 failed");
 }
 
 TEST(Operator, WaitsForAValueOnTheRealClock) {
@@ -319,7 +365,8 @@ TEST(Operator, WaitsForAValueOnTheRealClock) {
 }
 
 TEST(Operator, AFaultNamesTheLineThatWasInWork) {
-  ExpectRun("start\n\nanswer Ja\n\nget StartForm.Label1\n", 2, "\"line\": 5, \"event\": \"error\", \"text\": \"answers are left");
+  ExpectRun("start\n\nanswer Ja\n\nget StartForm.Label1\n", 2,
+            "\"line\": 5, \"event\": \"error\", \"text\": \"answers are left");
 }
 
 TEST(Operator, TheOuterStepGoesOnUnderItsOwnLine) {

@@ -1,3 +1,4 @@
+// Ties of fields, buttons, choices and captions at a window that is worked by hand.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -51,10 +52,11 @@ class BindingTest : public testing::Test {
  protected:
   void SetUp() override {
     const QString widgets =
-        WidgetText("QLineEdit", "Feld") + WidgetText("QLineEdit", "Zweites") + WidgetText("QPlainTextEdit", "Bemerkung") +
-        WidgetText("QPushButton", "Command1",
-                   "<property name=\"text\"><string>&amp;Speichern</string></property>") +
-        WidgetText("QCheckBox", "Check1") + WidgetText("QRadioButton", "Option1") + WidgetText("QRadioButton", "Option2") +
+        WidgetText("QLineEdit", "Feld") + WidgetText("QLineEdit", "Zweites") +
+        WidgetText("QPlainTextEdit", "Bemerkung") +
+        WidgetText("QPushButton", "Command1", "<property name=\"text\"><string>&amp;Speichern</string></property>") +
+        WidgetText("QCheckBox", "Check1") + WidgetText("QRadioButton", "Option1") +
+        WidgetText("QRadioButton", "Option2") +
         WidgetText("QComboBox", "Combo1", "<property name=\"editable\"><bool>true</bool></property>") +
         WidgetText("QLabel", "Label1");
     const FormFile form = FormOf(widgets, "<widget class=\"QStatusBar\" name=\"StatusBar1\"/>");
@@ -83,7 +85,9 @@ TEST_F(BindingTest, AllBytesSurviveAField) {
 }
 
 TEST_F(BindingTest, LinesOfABoxKeepProtectedBlanksAndLineEnds) {
-  const std::string text = "eins\r\nzwei\xA0" "drei\r\n";
+  const std::string text =
+      "eins\r\nzwei\xA0"
+      "drei\r\n";
   mask_.Bemerkung.SetText(text);
   QTest::keyClicks(Find<QPlainTextEdit>("Bemerkung"), "x");
   EXPECT_EQ(mask_.Bemerkung.Text(), "x" + text);

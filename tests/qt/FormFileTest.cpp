@@ -1,19 +1,15 @@
+// Forms against screens: each kind of fault is told, and all of them at once.
 #include "platform/qt/FormFile.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
-#include "platform/ControlArray.h"
-#include "platform/Screen.h"
-#include "platform/ListView.h"
-#include "platform/TextControls.h"
 #include "platform/ChoiceControls.h"
+#include "platform/ControlArray.h"
+#include "platform/ListView.h"
+#include "platform/Screen.h"
+#include "platform/TextControls.h"
 #include "platform/Timer.h"
-#include "platform/qt/QtDesktop.h"
-#include "platform/qt/QtText.h"
 #include "store/Text.h"
-#include "tests/qt/DesignScreen.h"
 #include "tests/qt/FormText.h"
 
 namespace kontorwerk {
@@ -77,27 +73,6 @@ TEST_F(FormFileTest, BrokenFormIsOneFault) {
 
 TEST_F(FormFileTest, ScreenWithoutFormIsAFault) {
   EXPECT_EQ(CheckForm(screen_), std::vector<std::string>{"T: there is no such form"});
-}
-
-TEST(Forms, EveryFormLoadsAndTiesAllItsWidgets) {
-  Desktop desktop;
-  std::vector<std::unique_ptr<DesignScreen>> screens;
-  for (const ScreenDesign& design : FormDesigns()) screens.push_back(std::make_unique<DesignScreen>(desktop, design));
-  QtDesktop windows(desktop);
-  for (const auto& screen : screens) {
-    bool hasRows = false;
-    for (const std::string& fault : CheckForm(*screen)) {
-      // The scratch screen has no arrays that grow; all else must fit.
-      const bool isRow = fault.find("stands in a row") != std::string::npos;
-      if (!isRow) ADD_FAILURE() << fault;
-      hasRows = hasRows || isRow;
-    }
-    screen->Load();
-    const ScreenWindow* window = windows.WindowOf(*screen);
-    for (const Control* control : screen->Controls())
-      EXPECT_TRUE(hasRows || window->BindingOf(*control) != nullptr) << screen->Name() << "." << control->Name();
-    EXPECT_EQ(window->Window().windowTitle(), ToQtLines(screen->Caption()));
-  }
 }
 
 }  // namespace

@@ -10,11 +10,12 @@ namespace kontorwerk {
 
 // A form of the screen T with the widgets one below the other; `more` stands beside its central widget.
 inline FormFile FormOf(const QString& widgets, const QString& more = {}) {
-  const QString xml = QStringLiteral(
-                          "<ui version=\"4.0\"><class>T</class><widget class=\"QMainWindow\" name=\"T\">"
-                          "<widget class=\"QWidget\" name=\"decoCentral\"><layout class=\"QVBoxLayout\" name=\"decoLayout\">"
-                          "%1</layout></widget>%2</widget></ui>")
-                          .arg(widgets, more);
+  const QString xml =
+      QStringLiteral(
+          "<ui version=\"4.0\"><class>T</class><widget class=\"QMainWindow\" name=\"T\">"
+          "<widget class=\"QWidget\" name=\"decoCentral\"><layout class=\"QVBoxLayout\" name=\"decoLayout\">"
+          "%1</layout></widget>%2</widget></ui>")
+          .arg(widgets, more);
   return FormFile(xml.toUtf8(), QStringLiteral("T.ui"));
 }
 

@@ -1,3 +1,4 @@
+// The tie of lists with columns: rows by the hundred thousand, clicks, ticks, keys, headers.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -36,7 +37,9 @@ class ListTest : public testing::Test {
   }
 
   void Wait() { QCoreApplication::processEvents(); }
-  RowsView& View() { return *static_cast<RowsView*>(windows_.WindowOf(suche_)->Window().findChild<QTreeView*>("Liste")); }
+  RowsView& View() {
+    return *static_cast<RowsView*>(windows_.WindowOf(suche_)->Window().findChild<QTreeView*>("Liste"));
+  }
   QString Shown(int row, int column) { return View().model()->index(row, column).data().toString(); }
 
   Desktop desktop_;

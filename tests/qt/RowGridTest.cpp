@@ -1,3 +1,4 @@
+// Rows of growing arrays over a fixed number of widgets.
 #include "platform/qt/RowGrid.h"
 
 #include <gtest/gtest.h>
@@ -23,9 +24,7 @@ class Positionen final : public Screen {
   explicit Positionen(Desktop& desktop) : Screen(desktop, "T") { desktop.Add(*this); }
   void SetRows(int count) {
     Pos.Resize(count, [](Label& label, int row) { label.SetCaption(std::to_string(row + 1)); });
-    B.Resize(count, [this](TextBox& field, int row) {
-      field.OnChange = [this, row] { changed = row; };
-    });
+    B.Resize(count, [this](TextBox& field, int row) { field.OnChange = [this, row] { changed = row; }; });
     VScroll1.SetRange(0, count - 14);
   }
   void OnWheel(int notches) override { VScroll1.SetValue(VScroll1.Value() - 3 * notches); }
@@ -39,11 +38,12 @@ class Positionen final : public Screen {
 class RowGridTest : public testing::Test {
  protected:
   void SetUp() override {
-    const QString row = QStringLiteral(
-        "<item><widget class=\"QWidget\" name=\"decoRow\">"
-        "<property name=\"rowTemplate\" stdset=\"0\"><bool>true</bool></property>"
-        "<layout class=\"QHBoxLayout\" name=\"decoRowLayout\" stretch=\"0,1\">%1%2</layout></widget></item>")
-                            .arg(WidgetText("QLabel", "Pos"), WidgetText("QLineEdit", "B"));
+    const QString row =
+        QStringLiteral(
+            "<item><widget class=\"QWidget\" name=\"decoRow\">"
+            "<property name=\"rowTemplate\" stdset=\"0\"><bool>true</bool></property>"
+            "<layout class=\"QHBoxLayout\" name=\"decoRowLayout\" stretch=\"0,1\">%1%2</layout></widget></item>")
+            .arg(WidgetText("QLabel", "Pos"), WidgetText("QLineEdit", "B"));
     const FormFile form = FormOf(row + WidgetText("QScrollBar", "VScroll1"));
     positions_.SetRows(17);
     ASSERT_EQ(CheckForm(positions_, form), std::vector<std::string>());

@@ -141,7 +141,7 @@ TEST_F(ArticleScreen, ADescriptionLineCountsDownWhileItHasTheFocus) {
   EXPECT_EQ(mask_.Label37.ForeColour(), std::nullopt);
   Set(mask_.B3, std::string(43, 'x'));
   EXPECT_EQ(mask_.Label37.Caption(), "4");
-  EXPECT_EQ(mask_.Label37.ForeColour(), kWarning);
+  EXPECT_EQ(mask_.Label37.ForeColour(), Colour{255});
   Set(mask_.B3, std::string(50, 'x'));
   EXPECT_EQ(mask_.Label37.Caption(), "-3");
   desktop_.MoveFocus(mask_.B4);

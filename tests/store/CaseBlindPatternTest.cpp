@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "store/RecordStore.h"
 #include "store/Text.h"
 
 namespace kontorwerk {

@@ -2,21 +2,19 @@
 #include "platform/word/PrintSink.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <unistd.h>
 
 #include <cstdlib>
-#include <thread>
-
 #include "platform/word/Office.h"
 #include "platform/word/RtfTemplate.h"
 #include "store/CodePage.h"
 #include "store/Text.h"
+#include "tests/word/CupsServer.h"
 #include "tests/word/WordSupport.h"
 
 namespace kontorwerk {
 namespace {
 
+using testing_support::CupsServer;
 using testing_support::PagesOfPdf;
 using testing_support::Script;
 using testing_support::TestFolder;
@@ -41,125 +39,29 @@ std::string OnePage() {
   return pdf + table + "trailer<</Size 6/Root 1 0 R>>\nstartxref\n" + start + "\n%%EOF\n";
 }
 
-// A print system of our own on a free port, with one printer TEST that writes into a file.
 class CupsTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    for (const char* program : {"cupsd", "lp", "lpadmin", "lpinfo", "lpstat", "pdfinfo", "pdftotext"})
-      NEEDS_PROGRAM(program);
-    port_ = 20000 + getpid() % 20000;
-    WriteConfiguration();
-    Start();
-    AddPrinter();
-    if (IsSkipped()) return;
-    setenv("CUPS_SERVER", Server().c_str(), 1);
+    for (const char* program : {"pdfinfo", "pdftotext"}) NEEDS_PROGRAM(program);
+    if (!cups_.Missing().empty()) GTEST_SKIP() << cups_.Missing();
+    ASSERT_EQ(cups_.Error(), "");
+    setenv("CUPS_SERVER", cups_.Address().c_str(), 1);
   }
-  void TearDown() override {
-    unsetenv("CUPS_SERVER");
-    if (!thread_.joinable()) return;
-    if (pid_ > 0) kill(pid_, SIGTERM);
-    thread_.join();
-  }
+  void TearDown() override { unsetenv("CUPS_SERVER"); }
 
-  std::string Server() const { return "127.0.0.1:" + std::to_string(port_); }
-  std::string Folder() const { return folder_.Path().string(); }
-  std::string OutFile() const { return Folder() + "/out/test.pdf"; }
+  std::string Folder() const { return cups_.Folder(); }
 
-  void WriteConfiguration() {
-    namespace fs = std::filesystem;
-    for (const char* name : {"etc/ppd", "spool/tmp", "cache", "run/certs", "log", "out"})
-      fs::create_directories(folder_.Path() / name);
-    // The filters run under another user when the server runs as root.
-    for (const char* name : {"", "out", "spool", "spool/tmp", "cache"})
-      fs::permissions(folder_.Path() / name, fs::perms::all);
-    folder_.Put("etc/cupsd.conf",
-                "Listen " + Server() + "\nListen " + Folder() +
-                    "/run/cups.sock\nBrowsing Off\nWebInterface No\nDefaultAuthType None\nLogLevel info\nMaxLogSize 0\n"
-                    "<Location />\nOrder allow,deny\nAllow localhost\n</Location>\n"
-                    "<Location /admin>\nOrder allow,deny\nAllow localhost\n</Location>\n"
-                    "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n</Policy>\n");
-    std::string files = "FileDevice Yes\nSandboxing relaxed\n";
-    const std::pair<const char*, const char*> places[] = {
-        {"ServerRoot", "etc"},         {"RequestRoot", "spool"},   {"TempDir", "spool/tmp"},
-        {"CacheDir", "cache"},         {"StateDir", "run"},        {"AccessLog", "log/access_log"},
-        {"ErrorLog", "log/error_log"}, {"PageLog", "log/page_log"}};
-    for (const auto& [key, place] : places) files += std::string(key) + " " + Folder() + "/" + place + "\n";
-    if (geteuid() != 0) {
-      const auto name = [](const char* option) {
-        ProcessCall call;
-        call.arguments = {FindProgram("id"), option};
-        const std::string output = RunProcess(call).output;
-        return output.substr(0, output.find('\n'));
-      };
-      files += "User " + name("-un") + "\nGroup " + name("-gn") + "\nSystemGroup " + name("-gn") + "\n";
-    } else {
-      files += "SystemGroup root lpadmin\n";
-    }
-    folder_.Put("etc/cups-files.conf", files);
-  }
-
-  ProcessResult Call(std::vector<std::string> arguments) const {
-    arguments[0] = FindProgram(arguments[0], {"/usr/sbin", "/usr/bin"});
-    ProcessCall call;
-    call.arguments = std::move(arguments);
-    call.environment = {"CUPS_SERVER=" + Server(), "LC_ALL=C.UTF-8"};
-    return RunProcess(call);
-  }
-
-  void Start() {
-    const std::string pidFile = Folder() + "/pid";
-    thread_ = std::thread([this, pidFile] {
-      ProcessCall call;
-      call.arguments = {"/bin/sh",
-                        "-c",
-                        "echo $$ > \"$1\"; exec \"$2\" -f -c \"$3\" -s \"$4\"",
-                        "sh",
-                        pidFile,
-                        FindProgram("cupsd", {"/usr/sbin"}),
-                        Folder() + "/etc/cupsd.conf",
-                        Folder() + "/etc/cups-files.conf"};
-      call.limit = std::chrono::minutes(3);
-      (void)RunProcess(call);
-    });
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(15);
-    while (Call({"lpstat", "-r"}).output.find("is running") == std::string::npos)
-      if (std::chrono::steady_clock::now() > deadline) break;
-    pid_ = std::stoi(ReadWholeFile(pidFile).value_or("0"));
-  }
-
-  void AddPrinter() {
-    const std::string models = Call({"lpinfo", "-m"}).output;
-    const std::size_t found = models.find("Generic-PDF_Printer-PDF");
-    if (found == std::string::npos)
-      GTEST_SKIP() << "no driver for a PDF printer (cups-filters): " << models.substr(0, 200);
-    const std::size_t begin = models.rfind('\n', found) + 1;
-    const std::string model = models.substr(begin, models.find(' ', begin) - begin);
-    const ProcessResult added = Call({"lpadmin", "-p", "TEST", "-E", "-v", "file:" + OutFile(), "-m", model});
-    ASSERT_EQ(added.exitCode, 0) << added.output;
-  }
-
-  // Waits until the printer has written its pages.
-  bool WaitForPages() const {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(40);
-    while (std::chrono::steady_clock::now() < deadline)
-      if (Call({"lpstat", "-W", "completed", "-o"}).output.find("TEST-") != std::string::npos) return true;
-    return false;
-  }
-
-  TestFolder folder_;
-  std::thread thread_;
-  pid_t pid_ = 0;
-  int port_ = 0;
+  CupsServer cups_;
 };
 
 TEST_F(CupsTest, PagesCopiesAndTitleReachThePrinter) {
   CupsSink sink({.workFolder = Folder() + "/work"});
   const std::string_view title = "RG0150-2026_Müller & Söhne \"GmbH\""_t;
   ASSERT_EQ(sink.Print({OnePage(), "TEST", 3, title}), "");
-  ASSERT_TRUE(WaitForPages());
-  EXPECT_EQ(PagesOfPdf(OutFile()), 3);
-  EXPECT_NE(TextOfPdf(OutFile()).find("Probeseite"), std::string::npos);
-  const std::string log = ReadWholeFile(Folder() + "/log/page_log").value_or("");
+  ASSERT_TRUE(cups_.WaitForJobs(1));
+  EXPECT_EQ(PagesOfPdf(cups_.OutFile()), 3);
+  EXPECT_NE(TextOfPdf(cups_.OutFile()).find("Probeseite"), std::string::npos);
+  const std::string log = cups_.PageLog();
   EXPECT_NE(log.find("total 3"), std::string::npos) << log;
   EXPECT_NE(log.find("RG0150-2026_"), std::string::npos) << log;
   EXPECT_TRUE(std::filesystem::is_empty(Folder() + "/work"));
@@ -183,9 +85,9 @@ TEST_F(CupsTest, AFilledTemplateComesOutOfThePrinter) {
   ASSERT_EQ(rendered.error, "");
   CupsSink sink({.workFolder = Folder() + "/work"});
   ASSERT_EQ(sink.Print({rendered.pdf, "TEST", 2, "Rechnung"}), "");
-  ASSERT_TRUE(WaitForPages());
-  EXPECT_EQ(PagesOfPdf(OutFile()), 2);
-  EXPECT_NE(TextOfPdf(OutFile()).find("Rechnung 0150/2026"), std::string::npos);
+  ASSERT_TRUE(cups_.WaitForJobs(1));
+  EXPECT_EQ(PagesOfPdf(cups_.OutFile()), 2);
+  EXPECT_NE(TextOfPdf(cups_.OutFile()).find("Rechnung 0150/2026"), std::string::npos);
 }
 
 TEST(CupsSink, ArgumentsReachTheSystemAsTheyAre) {

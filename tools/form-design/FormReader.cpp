@@ -1,3 +1,4 @@
+// Reads the whole file into elements first, then walks them once; errors name the line where the element begins.
 #include "tools/form-design/FormReader.h"
 
 #include <QFile>
@@ -51,10 +52,16 @@ Element ReadElement(QXmlStreamReader& reader) {
     element.attributes.insert(attribute.name().toString(), attribute.value().toString());
   while (!reader.atEnd()) {
     switch (reader.readNext()) {
-      case QXmlStreamReader::StartElement: element.children.push_back(ReadElement(reader)); break;
-      case QXmlStreamReader::Characters: element.text += reader.text(); break;
-      case QXmlStreamReader::EndElement: return element;
-      default: break;
+      case QXmlStreamReader::StartElement:
+        element.children.push_back(ReadElement(reader));
+        break;
+      case QXmlStreamReader::Characters:
+        element.text += reader.text();
+        break;
+      case QXmlStreamReader::EndElement:
+        return element;
+      default:
+        break;
     }
   }
   return element;
@@ -162,7 +169,8 @@ class FormReader {
       const QString text = element.Text(u"text");
       control.caption = Bytes(element.Value(u"buddy") != nullptr ? WithoutMnemonic(text) : text, line);
     } else {
-      control.caption = Bytes(WithoutMnemonic(element.Text(element.Value(u"text") != nullptr ? u"text" : u"title")), line);
+      control.caption =
+          Bytes(WithoutMnemonic(element.Text(element.Value(u"text") != nullptr ? u"text" : u"title")), line);
     }
   }
 
@@ -170,12 +178,17 @@ class FormReader {
     control.visible = element.Flag(u"visible", true);
     control.enabled = element.Flag(u"enabled", true);
     control.locked = element.Flag(u"readOnly", false);
-    control.checked = (kind == u"CheckBox" || kind == u"OptionButton" || kind == u"MenuEntry") && element.Flag(u"checked", false);
+    control.checked =
+        (kind == u"CheckBox" || kind == u"OptionButton" || kind == u"MenuEntry") && element.Flag(u"checked", false);
     for (const QString& word : element.Text(u"design").split(' ', Qt::SkipEmptyParts)) {
-      if (word == u"hidden") control.visible = false;
-      else if (word == u"disabled") control.enabled = false;
-      else if (word == u"locked") control.locked = true;
-      else errors_.Add(path_, element.line, QStringLiteral("unknown word '%1' in design").arg(word));
+      if (word == u"hidden")
+        control.visible = false;
+      else if (word == u"disabled")
+        control.enabled = false;
+      else if (word == u"locked")
+        control.locked = true;
+      else
+        errors_.Add(path_, element.line, QStringLiteral("unknown word '%1' in design").arg(word));
     }
   }
 
@@ -251,6 +264,8 @@ class FormReader {
 
 }  // namespace
 
-std::optional<ScreenDesign> ReadForm(const QString& path, FormErrors& errors) { return FormReader(path, errors).Read(); }
+std::optional<ScreenDesign> ReadForm(const QString& path, FormErrors& errors) {
+  return FormReader(path, errors).Read();
+}
 
 }  // namespace kontorwerk

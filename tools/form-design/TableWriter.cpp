@@ -1,3 +1,4 @@
+// The table is plain data that the compiler sets quickly; texts become objects when the table is first asked for.
 #include "tools/form-design/TableWriter.h"
 
 #include <string>
