@@ -44,9 +44,10 @@ TEST_F(PaperTest, ThreePagesCarryTheirSubtotalsOver) {
   EXPECT_LACKS(pages[0], "MwSt.");
   EXPECT_HOLDS(pages[1], "Seite 2 von 3");
   EXPECT_HOLDS(pages[1], "Übertrag: 135,30\n18 Zeile 18 1,10 19,80");
-  EXPECT_HOLDS(pages[1], "34 Zeile 34 1,10 37,40\nZwischensumme EUR\n");
+  EXPECT_HOLDS(pages[1], "34 Zeile 34 1,10 37,40\nZwischensumme EUR\n539,00");
   EXPECT_HOLDS(pages[2], "Seite 3 von 3");
-  EXPECT_HOLDS(pages[2], "Zeile 35\n36 Zeile 36 1,10 39,60\n");
+  EXPECT_HOLDS(pages[2], "Übertrag: 539,00\nZeile 35\n36 Zeile 36 1,10 39,60\n");
+  EXPECT_HOLDS(pages[2], "578,60 109,93 0,00 688,53");
   EXPECT_HOLDS(pages[2], "Zahlbar sofort.");
   EXPECT_LACKS(pages[2], "Zwischensumme");
 }
