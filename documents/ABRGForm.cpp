@@ -28,8 +28,8 @@ constexpr int kLengthOfYear = 4;
 
 std::string YearNotTurned(std::string_view year) {
   return Concat(
-      "Die Belegedatenbanken sind noch nicht auf das neue Jahr umgestellt worden!\r\nBelegdatum wird auf dem 31.12.", year,
-      " gestellt.\r\nUm die Datenbanken umzustellen, starten Sie die Kontorwerk neu!");
+      "Die Belegedatenbanken sind noch nicht auf das neue Jahr umgestellt worden!\r\nBelegdatum wird auf dem 31.12.",
+      year, " gestellt.\r\nUm die Datenbanken umzustellen, starten Sie die Kontorwerk neu!");
 }
 
 }  // namespace
@@ -121,8 +121,8 @@ void ABRGForm::AskToLeave() {
 void ABRGForm::SetLocked(bool locked) {
   locked_ = locked;
   for (Control* control : std::initializer_list<Control*>{
-           &Anrede, &KDName, &Ansprechpartner, &Straße, &PLZ, &Wohnort, &Datum, &UnsereZeichen, &IhreZeichen, &ComboABRG,
-           &BruttoButton, &NettoButton, &Zahlungsweise, &Text1, &Text2, &Command10, &Command13, &Command14})
+           &Anrede, &KDName, &Ansprechpartner, &Straße, &PLZ, &Wohnort, &Datum, &UnsereZeichen, &IhreZeichen,
+           &ComboABRG, &BruttoButton, &NettoButton, &Zahlungsweise, &Text1, &Text2, &Command10, &Command13, &Command14})
     control->SetEnabled(!locked);
   KDNr.SetLocked(locked);
   Rows.SetEnabled(!locked);
@@ -197,11 +197,19 @@ void ABRGForm::OnKindChanged() {
     Text2.SetText(text2);
   };
   switch (ComboABRG.ListIndex()) {
-    case kSelectorOpen: showTexts(s.RGZahlungsweise, s.RGText1, s.RGText2); break;
-    case kSelectorQuotation: showTexts(s.ABZahlungsweise, s.ABText1, s.ABText2); break;
-    case kSelectorCreditNote: showTexts(s.GSZahlungsweise, s.GSText1, s.GSText2); break;
-    case ComboBox::kNone: return;
-    default: break;
+    case kSelectorOpen:
+      showTexts(s.RGZahlungsweise, s.RGText1, s.RGText2);
+      break;
+    case kSelectorQuotation:
+      showTexts(s.ABZahlungsweise, s.ABText1, s.ABText2);
+      break;
+    case kSelectorCreditNote:
+      showTexts(s.GSZahlungsweise, s.GSText1, s.GSText2);
+      break;
+    case ComboBox::kNone:
+      return;
+    default:
+      break;
   }
   // Credit notes have no drafts.
   if (ComboABRG.ListIndex() <= kSelectorCreditNote) Datei.SetVisible(ComboABRG.ListIndex() != kSelectorCreditNote);

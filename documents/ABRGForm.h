@@ -4,8 +4,8 @@
 //   open       take typing                     loading, Command3, Command5, Command7, Command8
 //   locked     show the printed document       saving and printing without a failure
 //
-// The number field takes typing only while the user is asked for the first number of a table. The grid has a class of its
-// own; saving lies in ABRGFormSave.cpp, what follows printing in ABRGFormFinish.cpp, what begins a new document in
+// The number field takes typing only while the user is asked for the first number of a table. The grid has a class of
+// its own; saving lies in ABRGFormSave.cpp, what follows printing in ABRGFormFinish.cpp, what begins a new document in
 // ABRGFormNew.cpp, articles and amounts in ABRGFormPositions.cpp.
 #pragma once
 

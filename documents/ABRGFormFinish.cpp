@@ -1,5 +1,6 @@
-// What follows a document that was saved and printed without a failure: goods leave the stock, a draft of the same number
-// may go, the screen is locked, and the list of open documents is kept in step. The tables are written one by one.
+// What follows a document that was saved and printed without a failure: goods leave the stock, a draft of the same
+// number may go, the screen is locked, and the list of open documents is kept in step. The tables are written one by
+// one.
 #include "documents/ABRGForm.h"
 #include "documents/Drafts.h"
 #include "documents/StockReduction.h"
@@ -31,7 +32,9 @@ bool ABRGForm::TakeGoodsOut() {
 }
 
 void ABRGForm::OfferDraftDeletion() {
-  const std::string key = DraftKey(ComboABRG.ListIndex(), ABRGNR.Text());
+  // Kept: a credit note looks for the draft of a quotation; it has none of its own.
+  const int place = ComboABRG.ListIndex() == kSelectorCreditNote ? kSelectorQuotation : ComboABRG.ListIndex();
+  const std::string key = DraftKey(place, ABRGNR.Text());
   const std::string drafts = context_.store.ReadTableText(table::kDrafts);
   for (const std::string_view line : DraftLinesOf(drafts, key)) {
     if (!context_.platform.Ask(LeftoverDraftQuestion(line), kDeleteDraftTitle)) continue;
@@ -55,9 +58,14 @@ void ABRGForm::EnterOpenDocument() {
       EnterInvoice(store, OpenRecord(DocumentKind::Invoice), LieferscheinNr.Caption(), ClosedDocumentKeys,
                    [&] { return platform.Ask(NewAmountQuestion(), kNewAmountTitle); });
       break;
-    case kSelectorDeliveryNote: EnterDeliveryNote(store, OpenRecord(DocumentKind::DeliveryNote)); break;
-    case kSelectorCreditNote: EnterCreditNote(store, OpenRecord(DocumentKind::CreditNote)); break;
-    default: break;
+    case kSelectorDeliveryNote:
+      EnterDeliveryNote(store, OpenRecord(DocumentKind::DeliveryNote));
+      break;
+    case kSelectorCreditNote:
+      EnterCreditNote(store, OpenRecord(DocumentKind::CreditNote));
+      break;
+    default:
+      break;
   }
 }
 

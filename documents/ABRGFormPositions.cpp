@@ -16,7 +16,9 @@ void ABRGForm::FocusQuantity(int row) {
   Rows.S[row].SetFocus();
 }
 
+// A single item is complete with its quantity and price, and nobody leaves its quantity.
 void ABRGForm::FocusNextFreeRow(int row) {
+  Berechnen();
   if (Visible()) BringToFront();
   Rows.LGNr[Rows.NextRowWithoutDescription(row)].SetFocus();
 }
@@ -74,9 +76,9 @@ void ABRGForm::ChangePriceBase(PriceBase wanted) {
   const PriceBase old = isGross_ ? PriceBase::Gross : PriceBase::Net;
   if (wanted != old) {
     std::vector<PositionRow> rows = Rows.Rows();
-    const Answer answer = HasPrices(rows)
-                              ? context_.platform.Box(ConversionQuestion(wanted), kConversionTitle, Buttons::YesNoCancel)
-                              : Answer::No;
+    const Answer answer =
+        HasPrices(rows) ? context_.platform.Box(ConversionQuestion(wanted), kConversionTitle, Buttons::YesNoCancel)
+                        : Answer::No;
     if (answer == Answer::Cancel) {
       SetPriceBase(old);
       return;

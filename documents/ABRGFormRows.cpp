@@ -110,8 +110,8 @@ void ABRGFormRows::LabelRows() {
 }
 
 PositionRow ABRGFormRows::RowAt(int row) const {
-  return {LGNr[row].Text(), ArtNr[row].Text(), S[row].Text(),           B[row].Text(),
-          E[row].Text(),    G[row].Text(),     MWST2_Check[row].Checked()};
+  return {LGNr[row].Text(), ArtNr[row].Text(),         S[row].Text(), B[row].Text(), E[row].Text(),
+          G[row].Text(),    MWST2_Check[row].Checked()};
 }
 
 std::vector<PositionRow> ABRGFormRows::Rows() const {
@@ -160,12 +160,14 @@ void ABRGFormRows::AddPage(NewPage occasion) {
 void ABRGFormRows::InsertBehindCurrent() {
   if (IsFilledAt(Count() - 1)) AddPage(NewPage::ForInsertion);
   ShiftRowsDown(
-      Count(), currentRow_, [this](int from, int to) { SetRow(to, RowAt(from)); }, [this](int row) { SetRow(row, {}); });
+      Count(), currentRow_, [this](int from, int to) { SetRow(to, RowAt(from)); },
+      [this](int row) { SetRow(row, {}); });
 }
 
 void ABRGFormRows::DeleteCurrent() {
   ShiftRowsUp(
-      Count(), currentRow_, [this](int from, int to) { SetRow(to, RowAt(from)); }, [this](int row) { SetRow(row, {}); });
+      Count(), currentRow_, [this](int from, int to) { SetRow(to, RowAt(from)); },
+      [this](int row) { SetRow(row, {}); });
 }
 
 int ABRGFormRows::FreeRowBehind(int row) {
@@ -248,11 +250,22 @@ void ABRGFormRows::UseKey(Field field, int row, Key& key) {
   }
   if (key.ctrl || key.shift || key.alt) return;
   switch (key.code) {
-    case KeyCode::PageUp: ScrollUp(); MoveToRow(field, row - kRowsOfPageKey); break;
-    case KeyCode::PageDown: ScrollDown(); MoveToRow(field, row + kRowsOfPageKey); break;
-    case KeyCode::Up: MoveToRow(field, row - 1); break;
-    case KeyCode::Down: MoveToRow(field, row + 1); break;
-    default: return;
+    case KeyCode::PageUp:
+      ScrollUp();
+      MoveToRow(field, row - kRowsOfPageKey);
+      break;
+    case KeyCode::PageDown:
+      ScrollDown();
+      MoveToRow(field, row + kRowsOfPageKey);
+      break;
+    case KeyCode::Up:
+      MoveToRow(field, row - 1);
+      break;
+    case KeyCode::Down:
+      MoveToRow(field, row + 1);
+      break;
+    default:
+      return;
   }
   key.handled = true;
 }

@@ -1,5 +1,5 @@
-// The grid of the document screen: its position rows as arrays of controls with the scroll bar and the count of characters
-// left. It moves the focus and the rows; what an edit is followed by is the screen's, through the handlers.
+// The grid of the document screen: its position rows as arrays of controls with the scroll bar and the count of
+// characters left. It moves the focus and the rows; what an edit is followed by is the screen's, through the handlers.
 //
 // Invariants: 1. there are `Settings::PositionRowCount` rows, whole pages of 17; 2. the current row is the one that was
 // entered last; 3. a row that has the focus is in view.
@@ -21,14 +21,14 @@ namespace kontorwerk {
 
 // What the grid tells the screen.
 struct RowHandlers {
-  std::function<void()> edited;                               // a quantity, price or tax mark was left
-  std::function<void(int row)> lookUpStockNumber;             // Ctrl+Enter
+  std::function<void()> edited;                    // a quantity, price or tax mark was left
+  std::function<void(int row)> lookUpStockNumber;  // Ctrl+Enter
   std::function<void(int row)> lookUpArticleNumber;
   std::function<void(int row, std::string_view text)> leftEan;  // a number field was left that holds an EAN
-  std::function<void()> searchStock;                          // for the current row
+  std::function<void()> searchStock;                            // for the current row
   std::function<void()> searchArticle;
-  std::function<void()> explainLabel;                         // a row's number was clicked
-  std::function<void()> wentPastEnd;                          // Enter in the last field of the last row
+  std::function<void()> explainLabel;  // a row's number was clicked
+  std::function<void()> wentPastEnd;   // Enter in the last field of the last row
 };
 
 class ABRGFormRows {

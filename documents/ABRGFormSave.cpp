@@ -76,7 +76,8 @@ bool ABRGForm::RefusedForNumber() {
 ABRGForm::Step ABRGForm::AskWhatToPrint() {
   const int place = ComboABRG.ListIndex();
   if (place != kSelectorOpen && place != kSelectorDeliveryNote) return Step::Done;
-  choice_.Open(kChoiceCaption, {"Lieferschein und Rechnung drucken", "nur Rechnung drucken", "nur Lieferschein drucken!"});
+  choice_.Open(kChoiceCaption,
+               {"Lieferschein und Rechnung drucken", "nur Rechnung drucken", "nur Lieferschein drucken!"});
   choice_.OfferTick(kWithoutPrices);
   if (place == kSelectorDeliveryNote) {
     choice_.Combo.SetListIndex(2);
@@ -240,9 +241,12 @@ ABRGForm::Step ABRGForm::SaveNewQuotation(std::string_view tableText) {
 // Kept: with a new number the row that has just gone on top is rewritten with itself by the caller.
 ABRGForm::Step ABRGForm::AskForCopy() {
   switch (context_.platform.Box(kCopy, kCopyTitle, Buttons::YesNoCancel)) {
-    case Answer::Yes: return Step::Done;
-    case Answer::No: break;
-    default: return Step::Ended;
+    case Answer::Yes:
+      return Step::Done;
+    case Answer::No:
+      break;
+    default:
+      return Step::Ended;
   }
   constexpr DocumentKind kKind = DocumentKind::Quotation;
   const std::string table = context_.store.ReadTableText(NamesOf(kKind).table);
@@ -320,8 +324,10 @@ bool ABRGForm::Prints(DocumentKind kind) const {
       return answer == kBoth || answer == kDeliveryNoteOnly || ComboABRG.Text() == NamesOf(kind).word;
     case DocumentKind::Invoice:
       return answer == kBoth || answer == kInvoiceOnly || ComboABRG.ListIndex() == kSelectorInvoice;
-    case DocumentKind::Quotation: return IsQuotation();
-    case DocumentKind::CreditNote: break;
+    case DocumentKind::Quotation:
+      return IsQuotation();
+    case DocumentKind::CreditNote:
+      break;
   }
   return ComboABRG.ListIndex() == kSelectorCreditNote;
 }

@@ -1,5 +1,5 @@
-// A small choice dialog that does not block the other screens: the caller sets caption and entries, opens it and waits for
-// the result. The document screen asks with it what a delivery note / invoice is to be printed as.
+// A small choice dialog that does not block the other screens: the caller sets caption and entries, opens it and waits
+// for the result. The document screen asks with it what a delivery note / invoice is to be printed as.
 //
 //   result   means
 //   ""       open, nothing chosen yet

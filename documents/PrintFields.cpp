@@ -26,10 +26,14 @@ struct TemplateNames {
 
 TemplateNames TemplateNamesOf(DocumentKind kind) {
   switch (kind) {
-    case DocumentKind::DeliveryNote: return {"Lieferscheinvorlage", "Lieferscheinnummer"};
-    case DocumentKind::Invoice: return {"Rechnungsvorlage", "Rechnungsnummer"};
-    case DocumentKind::Quotation: return {"Angebotsvorlage", "Angebotsnummer"};
-    case DocumentKind::CreditNote: break;
+    case DocumentKind::DeliveryNote:
+      return {"Lieferscheinvorlage", "Lieferscheinnummer"};
+    case DocumentKind::Invoice:
+      return {"Rechnungsvorlage", "Rechnungsnummer"};
+    case DocumentKind::Quotation:
+      return {"Angebotsvorlage", "Angebotsnummer"};
+    case DocumentKind::CreditNote:
+      break;
   }
   return {"Gutschriftvorlage", "Gutschriftnummer"};
 }
@@ -98,7 +102,8 @@ class FieldList {
       AddEverywhere(Concat("FB", std::to_string(++line)), *text, *text);
     const std::string tax = s.Steuernummer.empty() ? std::string() : Concat("Steuernummer: ", s.Steuernummer);
     AddEverywhere("Steuernummer", tax, tax.empty() ? " " : tax);
-    const std::string vat = s.UmsatzsteuerIdentNr.empty() ? std::string(" ") : Concat("UStIdNr: ", s.UmsatzsteuerIdentNr);
+    const std::string vat =
+        s.UmsatzsteuerIdentNr.empty() ? std::string(" ") : Concat("UStIdNr: ", s.UmsatzsteuerIdentNr);
     AddEverywhere("USTIDNR", vat, vat);
   }
 

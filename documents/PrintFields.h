@@ -34,13 +34,13 @@ struct PaperDocument {
 struct PaperPage {
   int page = 1;
   int pages = 1;
-  std::string carryIn = "0";  // sum of the earlier pages
+  std::string carryIn = "0";   // sum of the earlier pages
   std::string carryOut = "0";  // ... and of this one
 };
 
 enum class FieldAreas {
   Body,
-  All,      // body, page header and page footer
+  All,  // body, page header and page footer
 };
 
 struct PaperField {

@@ -26,7 +26,8 @@ bool ForEachPage(const PaperDocument& document, const Settings& settings,
 
 }  // namespace
 
-std::vector<std::string> FillForm(const PaperDocument& document, const FileSystemObject& files, const Settings& settings) {
+std::vector<std::string> FillForm(const PaperDocument& document, const FileSystemObject& files,
+                                  const Settings& settings) {
   std::vector<std::string> pages;
   const std::string bytes = files.Read(Concat(settings.DBPath, kFormName)).text;
   if (!RtfTemplate::IsRtf(bytes)) return pages;
@@ -40,7 +41,8 @@ std::vector<std::string> FillForm(const PaperDocument& document, const FileSyste
   return pages;
 }
 
-bool PrintForm(const PaperDocument& document, const PrinterChoice& choice, WordXChange& word, const Settings& settings) {
+bool PrintForm(const PaperDocument& document, const PrinterChoice& choice, WordXChange& word,
+               const Settings& settings) {
   const std::string path = Concat(settings.DBPath, kFormName);
   const std::string title = Concat("Beleg ", document.record.number);
   const bool printed = ForEachPage(document, settings, [&](const std::vector<PaperField>& fields) {

@@ -11,7 +11,8 @@ namespace kontorwerk {
 
 // The form of the data folder with the values of each page, as rich text; empty if it is missing or something else.
 // Wherever the marks stand on the page, they are filled.
-[[nodiscard]] std::vector<std::string> FillForm(const PaperDocument& document, const FileSystemObject& files, const Settings& settings);
+[[nodiscard]] std::vector<std::string> FillForm(const PaperDocument& document, const FileSystemObject& files,
+                                                const Settings& settings);
 // All pages to the printer, `copies` of each. False at the first page that fails.
 [[nodiscard]] bool PrintForm(const PaperDocument& document, const PrinterChoice& choice, WordXChange& word,
                              const Settings& settings);

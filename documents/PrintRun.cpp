@@ -16,7 +16,11 @@ class PaperRun {
  public:
   PaperRun(const PaperDocument& document, const PrinterChoice& choice, WordXChange& word, const Settings& settings,
            const ShowStatus& showStatus)
-      : document_(document), choice_(choice), word_(word), settings_(settings), showStatus_(showStatus),
+      : document_(document),
+        choice_(choice),
+        word_(word),
+        settings_(settings),
+        showStatus_(showStatus),
         pages_(PageCount(document.storedRows)),
         collated_(settings.Sortieren && document.storedRows > kRowsPerPage) {}
 
@@ -93,19 +97,21 @@ bool PrintPaper(const PaperDocument& document, const PrinterChoice& choice, Word
 
 std::string PrintFailureMessage(DocumentKind kind) {
   const bool isNote = kind == DocumentKind::DeliveryNote || kind == DocumentKind::CreditNote;
-  return Concat(
-      "Fehler beim Versuch zu speichern!\r\n",
-      "Bitte überprüfen Sie die Pfade für Angebote / Rechnungen unter Einstellungen!\r\n"_t,
-      "Eventuell können auch Sonderzeichen beim Kundenname diesen Fehler verursachen!\r\n"_t,
-      "Weitere Fehlerquelle könnte eine zu alte / neue Microsoft-Word Version sein.\r\n"_t,
-      isNote ? "Druckvorgang abgebrochen!" : "Druckvorgang wurde abgebrochen!");
+  return Concat("Fehler beim Versuch zu speichern!\r\n",
+                "Bitte überprüfen Sie die Pfade für Angebote / Rechnungen unter Einstellungen!\r\n"_t,
+                "Eventuell können auch Sonderzeichen beim Kundenname diesen Fehler verursachen!\r\n"_t,
+                "Weitere Fehlerquelle könnte eine zu alte / neue Microsoft-Word Version sein.\r\n"_t,
+                isNote ? "Druckvorgang abgebrochen!" : "Druckvorgang wurde abgebrochen!");
 }
 
 std::string_view PrintFailureStatus(DocumentKind kind) {
   switch (kind) {
-    case DocumentKind::DeliveryNote: return "Probleme beim Speichern des Lieferscheins! - Druckvorgang abgebrochen!";
-    case DocumentKind::CreditNote: return "Probleme beim Speichern der Gutschrift! - Druckvorgang abgebrochen!";
-    default: return "Druckvorgang abgebrochen - Probleme beim Speichern!";
+    case DocumentKind::DeliveryNote:
+      return "Probleme beim Speichern des Lieferscheins! - Druckvorgang abgebrochen!";
+    case DocumentKind::CreditNote:
+      return "Probleme beim Speichern der Gutschrift! - Druckvorgang abgebrochen!";
+    default:
+      return "Druckvorgang abgebrochen - Probleme beim Speichern!";
   }
 }
 

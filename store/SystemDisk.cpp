@@ -1,12 +1,14 @@
 // The disk of the machine through POSIX. The only file of the store that calls the operating system directly;
 // what a call means for a save is decided in FileSystem.cpp.
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <thread>
 
@@ -20,6 +22,8 @@ constexpr std::size_t kReadBeyondEnd = 4096;
 // A text grows by so much at a time: what its growing sets to zero is then still in the processor's cache when the
 // read overwrites it.
 constexpr std::size_t kReadBlock = 256 * 1024;
+// From this size on the memory of a text is asked for in large pages.
+constexpr std::size_t kLargeText = 8 * 1024 * 1024;
 
 // Calls again as long as a signal interrupts.
 template <typename Call>
@@ -48,6 +52,20 @@ int ReadPart(int handle, std::size_t size, std::string& content, std::size_t& ta
   return 0;
 }
 
+// Fetching the memory of a large table page by page takes longer than reading it. A system without large pages goes on
+// as before.
+void AskForLargePages(const std::string& content) {
+#ifdef MADV_HUGEPAGE
+  if (content.capacity() < kLargeText) return;
+  const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+  const auto begin = (reinterpret_cast<std::uintptr_t>(content.data()) + page - 1) / page * page;
+  const auto end = (reinterpret_cast<std::uintptr_t>(content.data()) + content.capacity()) / page * page;
+  ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
+#else
+  static_cast<void>(content);
+#endif
+}
+
 int ReadHandle(int handle, std::string& content) {
   struct stat status {};
   if (::fstat(handle, &status) < 0) return errno;
@@ -55,6 +73,7 @@ int ReadHandle(int handle, std::string& content) {
   if (!S_ISREG(status.st_mode)) return EINVAL;
   const auto expected = static_cast<std::size_t>(status.st_size);
   content.reserve(content.size() + expected + kReadBeyondEnd);
+  AskForLargePages(content);
   std::size_t taken = 0;
   if (const int error = ReadPart(handle, expected, content, taken); error != 0) return error;
   if (taken < expected) return EIO;

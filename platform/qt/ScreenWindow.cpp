@@ -14,10 +14,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <algorithm>
-#include <climits>
-#include <cstdlib>
 
-#include "platform/FormDesign.h"
 #include "platform/Screen.h"
 #include "platform/TextControls.h"
 #include "platform/qt/FormLoader.h"
@@ -33,16 +30,6 @@ constexpr int kTitleBar = 32;
 constexpr int kNotch = 120;  // eighths of a degree
 
 std::string NameOf(const QString& name) { return FromQt(name).value_or(std::string()); }
-
-// The control of an entry of the design table, whose fixed arrays read "Name(0)"; of a growing array its first element.
-Control* ControlOf(const Screen& screen, std::string_view design) {
-  const std::size_t mark = design.find('(');
-  if (mark == std::string_view::npos) {
-    Control* control = screen.Find(design);
-    return control != nullptr ? control : screen.Find(design, 0);
-  }
-  return screen.Find(design.substr(0, mark), std::atoi(std::string(design.substr(mark + 1)).c_str()));
-}
 
 }  // namespace
 
@@ -141,7 +128,8 @@ void ScreenWindow::Appear() {
   Settle();
   if (!placed_) PlaceOnScreen();
   window_->show();
-  if (Control* first = screen_.FocusedControl() != nullptr ? screen_.FocusedControl() : FirstControl()) FocusOn(*first);
+  if (Control* first = screen_.FocusedControl() != nullptr ? screen_.FocusedControl() : screen_.FirstInTabOrder())
+    FocusOn(*first);
 }
 
 void ScreenWindow::Disappear() { window_->hide(); }
@@ -223,21 +211,6 @@ void ScreenWindow::FocusOn(const Control& control) {
   const QWidget* now = window_->focusWidget();
   if (!widget->isVisibleTo(window_.get()) || !widget->isEnabled()) return;
   if (now == nullptr || (now != widget && !widget->isAncestorOf(now))) widget->setFocus(Qt::OtherFocusReason);
-}
-
-// The first control in the order of work that a user could go to.
-Control* ScreenWindow::FirstControl() const {
-  Control* first = nullptr;
-  int place = INT_MAX;
-  if (screen_.Design() == nullptr) return nullptr;
-  for (const ControlDesign& design : screen_.Design()->controls) {
-    if (design.tabIndex < 0 || design.tabIndex >= place) continue;
-    Control* control = ControlOf(screen_, design.name);
-    if (control == nullptr || !control->TakesFocus() || !control->Visible()) continue;
-    first = control;
-    place = design.tabIndex;
-  }
-  return first;
 }
 
 bool ScreenWindow::Take(Control& control) { return desktop_.Take(control); }

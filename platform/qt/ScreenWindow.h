@@ -74,7 +74,6 @@ class ScreenWindow final : public QObject, public BindingHost {
   bool OnLostKey(const QKeyEvent& event);
   bool OnWheel(QObject& object, QWheelEvent& event);
   void OnHover(const Binding& binding) const;
-  [[nodiscard]] Control* FirstControl() const;
   void PlaceOnScreen();
 
   Screen& screen_;

@@ -1,5 +1,5 @@
-// What a script cannot show of the document screen: what other subsystems put into it, disks and word processors that fail,
-// and thousands of rows.
+// What a script cannot show of the document screen: what other subsystems put into it, disks and word processors that
+// fail, and thousands of rows.
 #include "documents/ABRGForm.h"
 
 #include <gtest/gtest.h>
@@ -174,7 +174,9 @@ TEST_F(AbrgForm, ADocumentThatCannotBeStoredIsNotPrinted) {
   screen_.Command1.UserClick();
   disk_.Arm({});
   EXPECT_EQ(Table("Rechnungendb.dbf"), before);
-  EXPECT_EQ(screen_.ABRGNR.Text(), "???" "?/2026");
+  EXPECT_EQ(screen_.ABRGNR.Text(),
+            "???"
+            "?/2026");
   EXPECT_EQ(Status(), "Druckvorgang abgebrochen - Probleme beim Speichern!");
   EXPECT_EQ(platform_.BoxCount(), 1);
   for (const std::string& step : word_.steps) EXPECT_FALSE(step.starts_with("OpenTemplate")) << step;
@@ -216,6 +218,26 @@ TEST_F(AbrgForm, AnUnknownPrinterLeavesRecordAndScreen) {
   EXPECT_EQ(Status(), "Rechnung drucken - fertig!");
   EXPECT_EQ(screen_.StatusBar1.Panel(4), "");
   EXPECT_EQ(platform_.BoxCount(), 1);
+}
+
+TEST_F(AbrgForm, ADiskThatFillsUpUnderThePaperLeavesRecordAndScreen) {
+  word_.fails = [this](std::string_view step) {
+    if (!step.starts_with("SaveDocument")) return false;
+    disk_.Arm({FaultKind::ForGood, 0, ENOSPC});
+    const bool failed = !files_.Write(step.substr(step.find(' ') + 1), "paper");
+    disk_.Arm({});
+    return failed;
+  };
+  FillRow(0, "1", "Ware", "5");
+  SaveAndPrint();
+  EXPECT_EQ(Status(), "Druckvorgang abgebrochen - Probleme beim Speichern!");
+  EXPECT_TRUE(Table("Rechnungendb.dbf").starts_with("'1','0101/2026'"));
+  EXPECT_EQ(Table("RG0101-2026_Meier.doc"), "(missing)");
+  EXPECT_EQ(Table("offeneBelegedb.dbf"), "(missing)");
+  word_.fails = [](std::string_view) { return false; };
+  SaveAndPrintAgain();
+  EXPECT_EQ(Status(), "Rechnung drucken - fertig!");
+  EXPECT_TRUE(Table("offeneBelegedb.dbf").starts_with("'RG','0101/2026'"));
 }
 
 TEST_F(AbrgForm, AFailedDeliveryNoteStaysOpenInTheWordProcessor) {
@@ -266,11 +288,15 @@ TEST_F(AbrgForm, ADocumentGoesOnTheFormInRichText) {
   platform_.PushAnswer({.kind = QueuedAnswer::Kind::Printer, .printer = {"Büro", 2}});
   screen_.BelegRTFDrucken();
   EXPECT_EQ(screen_.BelegRTF.Rtf(), "{\\rtf1 Meier 5,95}");
-  EXPECT_EQ(Status(), "Beleg ???" "?/2026 wurde gedruckt!");
+  EXPECT_EQ(Status(),
+            "Beleg ???"
+            "?/2026 wurde gedruckt!");
   EXPECT_EQ(Table("Rechnungendb.dbf"), "'short','0100/2026','02.01.2026 ','','x\r\n");
   platform_.PushAnswer({.kind = QueuedAnswer::Kind::Cancel});
   screen_.BelegRTFDrucken();
-  EXPECT_EQ(Status(), "Abbruch durch den Benutzer! Auftrag ???" "?/2026 wurde nicht gedruckt!");
+  EXPECT_EQ(Status(),
+            "Abbruch durch den Benutzer! Auftrag ???"
+            "?/2026 wurde nicht gedruckt!");
 }
 
 TEST_F(AbrgForm, LoadingReadsTheConfigurationAndWaitsForAPartner) {

@@ -26,7 +26,9 @@ std::string ValueOf(const std::vector<PaperField>& fields, std::string_view name
 
 class PaperFieldsTest : public ::testing::Test {
  protected:
-  [[nodiscard]] std::string Value(std::string_view name) const { return ValueOf(PaperFields(paper_, page_, settings_), name); }
+  [[nodiscard]] std::string Value(std::string_view name) const {
+    return ValueOf(PaperFields(paper_, page_, settings_), name);
+  }
 
   Settings settings_;
   PaperDocument paper_ = InvoiceOf(1);
@@ -122,7 +124,8 @@ TEST_F(PaperFieldsTest, EveryFieldIsSetOnceAndSenderFieldsInAllAreas) {
   EXPECT_EQ(everywhere, "FA1 FA2 FA3 FA4 FA5 FA6 FB1 FB2 FB3 Steuernummer USTIDNR ");
   std::sort(names.begin(), names.end());
   EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
-  EXPECT_EQ(names.size(), 7U + 2U + 6U + 1U + 11U + 17U * 6U + 6U + 3U) << "head, number, references, sender, rows, amounts, texts";
+  EXPECT_EQ(names.size(), 7U + 2U + 6U + 1U + 11U + 17U * 6U + 6U + 3U)
+      << "head, number, references, sender, rows, amounts, texts";
   EXPECT_EQ(Value("Steuernummer"), "Steuernummer: 12/345");
   EXPECT_EQ(Value("USTIDNR"), " ");
 }
@@ -164,9 +167,10 @@ TEST_F(RichTextForm, IsFilledWithNamesWithoutUmlauts) {
   paper.record.KDName = "A {B} \\ [Betrag]";
   const std::vector<std::string> pages = FillForm(paper, files_, settings_);
   ASSERT_EQ(pages.size(), 1U);
-  EXPECT_EQ(pages[0],
-            "{\\rtf1\\ansi{\\header Firma}A \\{B\\} \\\\ [Betrag]||0150/2007||Liefer-/Leistungszeitpunkt entspricht dem "
-            "Rechnungsdatum (wenn nicht gesondert angegeben)|||1xWare 1|119,00}");
+  EXPECT_EQ(
+      pages[0],
+      "{\\rtf1\\ansi{\\header Firma}A \\{B\\} \\\\ [Betrag]||0150/2007||Liefer-/Leistungszeitpunkt entspricht dem "
+      "Rechnungsdatum (wenn nicht gesondert angegeben)|||1xWare 1|119,00}");
 }
 
 TEST_F(RichTextForm, HasOneFormForEachPageAndNamesTheDeliveryNote) {

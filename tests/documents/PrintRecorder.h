@@ -76,7 +76,8 @@ inline PaperDocument InvoiceOf(int filledRows) {
   paper.record.Zahlungsweise = "sofort";
   paper.record.rows.resize(static_cast<std::size_t>(RowsOfWholePages(filledRows)));
   for (int i = 0; i < filledRows; ++i)
-    paper.record.rows[static_cast<std::size_t>(i)] = {"", "", "1", "Ware " + std::to_string(i + 1), "1,50", "1,50", false};
+    paper.record.rows[static_cast<std::size_t>(i)] = {"",     "",     "1",  "Ware " + std::to_string(i + 1),
+                                                      "1,50", "1,50", false};
   paper.storedRows = filledRows;
   paper.rateLabel1 = "19%";
   paper.rateLabel2 = "7%";

@@ -24,7 +24,8 @@ class PrintRun : public ::testing::Test {
   }
 
   bool Print(const PaperDocument& paper, int copies = 1) {
-    return PrintPaper(paper, {"Büro", copies}, word_, settings_, [this](std::string_view text) { status_.emplace_back(text); });
+    return PrintPaper(paper, {"Büro", copies}, word_, settings_,
+                      [this](std::string_view text) { status_.emplace_back(text); });
   }
   [[nodiscard]] Steps StepsOf(std::string_view operation) const {
     Steps steps;
@@ -47,8 +48,8 @@ TEST_F(PrintRun, OnePageGoesThroughTheWordProcessorInOrder) {
                        "CloseDocument",
                        "Reset"};
   EXPECT_EQ(word_.steps, steps);
-  const Steps status = {std::string("Vorlage öffnen"_t), std::string("Daten übernehmen"_t), "Rechnung Seite 1 speichern...",
-                        "Rechnung Seite 1 drucken...", "Rechnung drucken - fertig!"};
+  const Steps status = {std::string("Vorlage öffnen"_t), std::string("Daten übernehmen"_t),
+                        "Rechnung Seite 1 speichern...", "Rechnung Seite 1 drucken...", "Rechnung drucken - fertig!"};
   EXPECT_EQ(status_, status);
 }
 
@@ -78,8 +79,8 @@ TEST_F(PrintRun, EachKindHasItsTemplatesFoldersAndWords) {
       {DocumentKind::DeliveryNote, "OpenTemplate D:\\Lieferscheinvorlage.dot",
        "SaveDocument R:\\LS0150-2007_Max Mustermann.doc", "Lieferschein Seite 1 speichern...",
        "Lieferschein drucken - fertig!"},
-      {DocumentKind::Quotation, "OpenTemplate D:\\Angebotsvorlage.dot", "SaveDocument A:\\AB0150-2007_Max Mustermann.doc",
-       "Angebot Seite 1 speichern...", "Angebot drucken - fertig!"},
+      {DocumentKind::Quotation, "OpenTemplate D:\\Angebotsvorlage.dot",
+       "SaveDocument A:\\AB0150-2007_Max Mustermann.doc", "Angebot Seite 1 speichern...", "Angebot drucken - fertig!"},
       {DocumentKind::CreditNote, "OpenTemplate D:\\Gutschriftvorlage.dot",
        "SaveDocument R:\\GS0150-2007_Max Mustermann.doc", "Gutschrift Seite 1 speichern...",
        "Gutschrift drucken - fertig!"},
@@ -153,7 +154,8 @@ TEST_F(PrintRun, APrinterThatRefusesEndsTheRun) {
 }
 
 TEST_F(PrintRun, ANameThatNoFileCanHaveIsNeverSaved) {
-  for (const std::string_view name : {"A/B", "A\\B", "A:B", "A*B", "A?B", "A\"B", "A<B", "A>B", "A|B", "A\r\nB", "A\tB"}) {
+  for (const std::string_view name :
+       {"A/B", "A\\B", "A:B", "A*B", "A?B", "A\"B", "A<B", "A>B", "A|B", "A\r\nB", "A\tB"}) {
     word_.steps.clear();
     PaperDocument paper = InvoiceOf(1);
     paper.record.KDName = name;

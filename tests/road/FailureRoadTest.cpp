@@ -9,7 +9,8 @@
 namespace kontorwerk::testing_support {
 namespace {
 
-constexpr std::string_view kPosition = "set ABRGForm.LGNr(0) \"#01001\"\nkey ABRGForm.LGNr(0) Ctrl+Enter\nset ABRGForm.S(0) \"3\"\n";
+constexpr std::string_view kPosition =
+    "set ABRGForm.LGNr(0) \"#01001\"\nkey ABRGForm.LGNr(0) Ctrl+Enter\nset ABRGForm.S(0) \"3\"\n";
 
 // What the user sees of an invoice that could not be printed.
 constexpr std::string_view kFailed = R"(expect-boxes 1

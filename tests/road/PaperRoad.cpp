@@ -31,10 +31,12 @@ click KDsuchen.Command3
 )";
 
 std::string Settings(const RoadFirm& firm) {
-  return std::string("write config.txt \"MWSTSatz=19\\r\\nMWSTSatz2=7\\r\\nRGPath=belege\\\\\\r\\nABPath=belege\\\\\\r\\n") +
+  return std::string(
+             "write config.txt \"MWSTSatz=19\\r\\nMWSTSatz2=7\\r\\nRGPath=belege\\\\\\r\\nABPath=belege\\\\\\r\\n") +
          "DBPath=daten\\\\\\r\\nRGZahlungsweise=Zahlbar sofort.\\r\\nLFText1=Bitte prüfen.\\r\\n" +
          "ABText1=Angebot freibleibend.\\r\\nGSZahlungsweise=Wird verrechnet.\\r\\n" +
-         "FirmenAbsender=Papierhaus, Ufer 1, 10115 Berlin\\r\\nFirmenAdresse1=Papierhaus\\r\\nBankdaten1=Ufer-Bank\\r\\n" +
+         "FirmenAbsender=Papierhaus, Ufer 1, 10115 "
+         "Berlin\\r\\nFirmenAdresse1=Papierhaus\\r\\nBankdaten1=Ufer-Bank\\r\\n" +
          "Steuernummer=11/222\\r\\nSortieren=" + (firm.collate ? "Wahr" : "Falsch") +
          "\\r\\nEinheitsbelege=" + (firm.oneFormForAll ? "Wahr" : "Falsch") + "\\r\\n\"\n";
 }
@@ -68,10 +70,14 @@ std::string RoadRun::Paper(const std::string& name) const { return TextOfPdf(Pat
 std::string RoadRun::DocumentPaper(const std::string& name) const {
   const TestFolder work;
   ProcessCall call;
-  call.arguments = {FindProgram("soffice"), "-env:UserInstallation=file://" + PaperRoad::Shared().CacheFolder() + "/reader",
-                    "--headless",           "--norestore",
-                    "--convert-to",         "pdf",
-                    "--outdir",             work.Path().string(),
+  call.arguments = {FindProgram("soffice"),
+                    "-env:UserInstallation=file://" + PaperRoad::Shared().CacheFolder() + "/reader",
+                    "--headless",
+                    "--norestore",
+                    "--convert-to",
+                    "pdf",
+                    "--outdir",
+                    work.Path().string(),
                     Path("belege/" + name + ".doc")};
   call.environment = {"LC_ALL=C.UTF-8"};
   call.limit = std::chrono::seconds(60);
@@ -88,7 +94,8 @@ std::vector<std::string> RoadRun::Words(std::string_view operation, std::string_
     const std::size_t begin = line.find(mark);
     if (begin == std::string::npos) continue;
     std::string value = line.substr(begin + mark.size());
-    value = value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value.substr(0, value.find_first_of(",}"));
+    value =
+        value.starts_with('"') ? value.substr(1, value.find('"', 1) - 1) : value.substr(0, value.find_first_of(",}"));
     values.push_back(std::move(value));
   }
   return values;
@@ -110,18 +117,20 @@ void PaperRoad::Play(RoadRun& run, std::string_view steps, const RoadPlay& play)
   if (play.mode == RoadMode::WindowsAndPaper)
     call.arguments.insert(call.arguments.end(), {"--screens", "qt", "--print"});
   call.arguments.push_back(run.Path("steps.op"));
-  call.environment = {"CUPS_SERVER=" + cups_.Address(), "XDG_CACHE_HOME=" + CacheFolder(),
-                      "QT_QPA_PLATFORM=offscreen", "LC_ALL=C.UTF-8"};
+  call.environment = {"CUPS_SERVER=" + cups_.Address(), "XDG_CACHE_HOME=" + CacheFolder(), "QT_QPA_PLATFORM=offscreen",
+                      "LC_ALL=C.UTF-8"};
   const char* path = std::getenv("PATH");
   if (!play.firstInPath.empty()) call.environment.push_back("PATH=" + play.firstInPath + ":" + (path ? path : ""));
   call.limit = std::chrono::minutes(2);
   // The record of a long document is longer than what is kept of an output.
   const std::string record = run.Path("record.txt");
-  call.arguments.insert(call.arguments.begin(), {"/bin/sh", "-c", "record=$1; shift; exec \"$@\" >\"$record\"", "sh", record});
+  call.arguments.insert(call.arguments.begin(),
+                        {"/bin/sh", "-c", "record=$1; shift; exec \"$@\" >\"$record\"", "sh", record});
   const ProcessResult result = RunProcess(call);
   run.exitCode_ = result.exitCode;
   run.output_ = ReadWholeFile(record).value_or("");
-  EXPECT_EQ(result.exitCode, 0) << result.output << run.output_.substr(run.output_.size() > 2000 ? run.output_.size() - 2000 : 0);
+  EXPECT_EQ(result.exitCode, 0) << result.output
+                                << run.output_.substr(run.output_.size() > 2000 ? run.output_.size() - 2000 : 0);
 }
 
 std::string Quoted(std::string_view text) {

@@ -1,5 +1,5 @@
-// The road of a document from the screen to the paper: plays scripts through the operator's real windows with papers that
-// are really made, in a small firm of its own, and reads what lies there afterwards.
+// The road of a document from the screen to the paper: plays scripts through the operator's real windows with papers
+// that are really made, in a small firm of its own, and reads what lies there afterwards.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -94,5 +94,6 @@ class PrinterTest : public PaperTest {
 }  // namespace kontorwerk::testing_support
 
 // Fails unless `text` holds `part`.
-#define EXPECT_HOLDS(text, part) EXPECT_NE((text).find(part), std::string::npos) << "no " << (part) << " in:\n" << (text)
+#define EXPECT_HOLDS(text, part) \
+  EXPECT_NE((text).find(part), std::string::npos) << "no " << (part) << " in:\n" << (text)
 #define EXPECT_LACKS(text, part) EXPECT_EQ((text).find(part), std::string::npos) << (part) << " is in:\n" << (text)

@@ -68,18 +68,17 @@ TEST_F(PaperTest, EighteenRowsAreTheFirstAndTheLastPageOfTwo) {
 // All kinds of one page, with templates of their own and with the form for all.
 class KindsTest : public PaperTest, public ::testing::WithParamInterface<bool> {};
 
-
 TEST_P(KindsTest, EachKindShowsItsNumberAndWhatMayBeSeen) {
-  const std::string positions = TypedRow(0, "2", "Regal", "50,00") + TypedRow(1, "1", "Buch", "20,00") +
-                                "click ABRGForm.MWST2_Check(1)\n";
+  const std::string positions =
+      TypedRow(0, "2", "Regal", "50,00") + TypedRow(1, "1", "Buch", "20,00") + "click ABRGForm.MWST2_Check(1)\n";
   const std::string next = "answer Ja\nclick ABRGForm.Command8\n";
   const std::string print = "answer printer \"PDF-Datei\" 1\n";
   // The questions of a quotation: with its total, among the open documents.
   const std::string quote = "answer Nein\n" + print + "answer Nein\nclick ABRGForm.Command1\n";
-  const std::string steps = positions + PrintBoth(kPdf, 1, 2, true) +                                    //
-                            next + "choose ABRGForm.ComboABRG 1\n" + positions + quote +                 //
-                            next + "choose ABRGForm.ComboABRG 2\n" + positions + print +                 //
-                            "click ABRGForm.Command1\n" +                                                //
+  const std::string steps = positions + PrintBoth(kPdf, 1, 2, true) +                     //
+                            next + "choose ABRGForm.ComboABRG 1\n" + positions + quote +  //
+                            next + "choose ABRGForm.ComboABRG 2\n" + positions + print +  //
+                            "click ABRGForm.Command1\n" +                                 //
                             next + "click ABRGForm.BruttoButton\n" + positions + PrintBoth(kPdf, 1, 1);
   RoadRun run;
   PaperRoad::Shared().Play(run, steps, {.firm = {.oneFormForAll = GetParam()}});
@@ -120,9 +119,9 @@ TEST_F(PaperTest, TextsThatLookLikeMarkupStandOnPaperAsTyped) {
   while (street.size() < 300) street += " Nummer " + std::to_string(street.size());
   const std::string article = "{\\b fett} \\'e4 [Gesamt] %d \"x\"; </w:t>";
   RoadRun run;
-  PaperRoad::Shared().Play(run, "set ABRGForm.KDName " + Quoted(name) + "\nset ABRGForm.Ansprechpartner " + Quoted(contact) +
-                                    "\nset ABRGForm.Straße " + Quoted(street) + "\n" + TypedRow(0, "1", article, "7,00") +
-                                    PrintBoth(kPdf, 1, 1) + std::string(kNoBoxes));
+  PaperRoad::Shared().Play(run, "set ABRGForm.KDName " + Quoted(name) + "\nset ABRGForm.Ansprechpartner " +
+                                    Quoted(contact) + "\nset ABRGForm.Straße " + Quoted(street) + "\n" +
+                                    TypedRow(0, "1", article, "7,00") + PrintBoth(kPdf, 1, 1) + std::string(kNoBoxes));
   const std::string paper = WithoutBlanks(run.Paper("RG0108-2026_" + name));
   for (const std::string& text : {name, contact, street, article}) EXPECT_HOLDS(paper, WithoutBlanks(text));
   EXPECT_EQ(paper, WithoutBlanks(run.DocumentPaper("RG0108-2026_" + name)));

@@ -48,7 +48,8 @@ std::vector<std::string> PrintCopies(int rows, int copies, bool collate, int job
   std::string steps = "click ABRGForm.Command10\n";
   for (int row = 0; row < rows; row += row == 0 ? rows - 1 : 1) steps += TypedRow(row, "1", "Zeile", "2,50");
   RoadRun run;
-  PaperRoad::Shared().Play(run, steps + PrintBoth("TEST", copies, 1) + "expect-boxes 0\n", {.firm = {.collate = collate}});
+  PaperRoad::Shared().Play(run, steps + PrintBoth("TEST", copies, 1) + "expect-boxes 0\n",
+                           {.firm = {.collate = collate}});
   EXPECT_TRUE(cups.WaitForJobs(before + jobs));
   return PrintedSince(cups.PageLog(), logBefore);
 }
@@ -74,7 +75,8 @@ TEST_F(PrinterTest, DeliveryNoteAndInvoiceComeOutOfThePrinterWithTheirTablesWrit
     EXPECT_HOLDS(paper, "Firma\nMüller & Söhne\nHauptstr. 1\n78000 Musterstadt");
     EXPECT_HOLDS(paper, "Seite 1 von 1");
   }
-  EXPECT_EQ(run.Papers(), (std::vector<std::string>{"LS0106-2026_Müller & Söhne.doc", "RG0108-2026_Müller & Söhne.doc"}));
+  EXPECT_EQ(run.Papers(),
+            (std::vector<std::string>{"LS0106-2026_Müller & Söhne.doc", "RG0108-2026_Müller & Söhne.doc"}));
   EXPECT_EQ(run.DocumentPaper("LS0106-2026_Müller & Söhne"), note);
   EXPECT_EQ(run.DocumentPaper("RG0108-2026_Müller & Söhne"), TextOfPdf(Cups().JobFile(before + 2)));
 }

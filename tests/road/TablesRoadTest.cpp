@@ -8,8 +8,8 @@
 namespace kontorwerk::testing_support {
 namespace {
 
-constexpr std::string_view kTables[] = {"Rechnungendb", "Lieferscheinedb",  "Angebotedb",        "Gutschriftendb",
-                                        "Kundendb",     "LagerArtikeldb",   "Artikeldb",         "offeneBelegedb"};
+constexpr std::string_view kTables[] = {"Rechnungendb", "Lieferscheinedb", "Angebotedb", "Gutschriftendb",
+                                        "Kundendb",     "LagerArtikeldb",  "Artikeldb",  "offeneBelegedb"};
 
 constexpr std::string_view kSteps = R"(set ABRGForm.LGNr(0) "#01001"
 key ABRGForm.LGNr(0) Ctrl+Enter
@@ -21,7 +21,8 @@ set ABRGForm.S(1) "2,5"
 
 std::map<std::string, std::string> Tables(RoadMode mode) {
   RoadRun run;
-  PaperRoad::Shared().Play(run, std::string(kSteps) + PrintBoth("PDF-Datei", 1, 0) + "expect-boxes 0\n", {.mode = mode});
+  PaperRoad::Shared().Play(run, std::string(kSteps) + PrintBoth("PDF-Datei", 1, 0) + "expect-boxes 0\n",
+                           {.mode = mode});
   std::map<std::string, std::string> tables;
   for (const std::string_view name : kTables) {
     const std::string file = std::string(name) + ".dbf";
@@ -49,12 +50,13 @@ TEST_F(PaperTest, TheTablesAreTheSameToTheByteWithAndWithoutPaper) {
   EXPECT_EQ(tables["Gutschriftendb.dbf"], seed("0100"));
   EXPECT_EQ(tables["offeneBelegedb.dbf"],
             "'RG','0108/2026'," + head + "'Rechnung','Falsch','Wahr','282,65','32,73','7,73','323,11','323,11\r\n\r\n");
-  EXPECT_EQ(tables["LagerArtikeldb.dbf"],
-            "'#01001','BUC00001','Kochbuch','32','','','','','4000000000017','','','Kochbuch','','','','Stück','','','','',"
-            "'','','','','','','','','','','30,00','36,80','39,38','1','0','Warenausgang am 16.11.2026 - Menge: 3\r\n"
-            "'#01002','LIC00001','Leuchte','10','','','','','4000000000024','','','Leuchte weiß','mit Netzteil','','',"
-            "'Stück','','','','','','','','','','','','','','','90,00','174,90','208,13','0','0','Wareneingang am 02.02.2026"
-            "\r\n\r\n");
+  EXPECT_EQ(
+      tables["LagerArtikeldb.dbf"],
+      "'#01001','BUC00001','Kochbuch','32','','','','','4000000000017','','','Kochbuch','','','','Stück','','','','',"
+      "'','','','','','','','','','','30,00','36,80','39,38','1','0','Warenausgang am 16.11.2026 - Menge: 3\r\n"
+      "'#01002','LIC00001','Leuchte','10','','','','','4000000000024','','','Leuchte weiß','mit Netzteil','','',"
+      "'Stück','','','','','','','','','','','','','','','90,00','174,90','208,13','0','0','Wareneingang am 02.02.2026"
+      "\r\n\r\n");
 }
 
 }  // namespace
