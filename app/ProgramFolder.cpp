@@ -26,6 +26,9 @@ std::string FindProgramFolder() {
   if (!error && access(executable.parent_path().c_str(), W_OK) == 0) return executable.parent_path().string();
   const fs::path folder = UserFolder();
   fs::create_directories(folder, error);
+  // What lies beside the executable for every user goes along.
+  for (const char* name : {"OK.wav", "Fehler.wav", "Handbuch.pdf"})
+    fs::copy_file(executable.parent_path() / name, folder / name, fs::copy_options::skip_existing, error);
   return folder.string();
 }
 

@@ -124,7 +124,6 @@ void ABRGForm::SetLocked(bool locked) {
            &Anrede, &KDName, &Ansprechpartner, &Straße, &PLZ, &Wohnort, &Datum, &UnsereZeichen, &IhreZeichen,
            &ComboABRG, &BruttoButton, &NettoButton, &Zahlungsweise, &Text1, &Text2, &Command10, &Command13, &Command14})
     control->SetEnabled(!locked);
-  KDNr.SetLocked(locked);
   Rows.SetEnabled(!locked);
   Command3.SetEnabled(locked);
 }

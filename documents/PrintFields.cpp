@@ -67,10 +67,13 @@ class FieldList {
     Add(names.carryText, carries ? "Übertrag:"_t : std::string_view());
   }
 
-  void AddKindAndNumber() {
-    const DocumentKindNames kind = NamesOf(document_.kind);
+  // The templates that serve all kinds have a field for the kind.
+  void AddKind() {
+    if (settings_.Einheitsbelege) Add("Belegart", NamesOf(document_.kind).word);
+  }
+
+  void AddNumber() {
     if (settings_.Einheitsbelege) {
-      Add("Belegart", kind.word);
       Add("Belegnummer", record_.number);
     } else {
       Add(TemplateNamesOf(document_.kind).numberField, record_.number);
@@ -170,8 +173,9 @@ class FieldList {
 
 std::vector<PaperField> PaperFields(const PaperDocument& document, const PaperPage& page, const Settings& settings) {
   FieldList fields(document, page, settings);
+  fields.AddKind();
   fields.AddHead(kWordNames);
-  fields.AddKindAndNumber();
+  fields.AddNumber();
   fields.AddReferences(kWordNames);
   fields.AddSender();
   fields.AddRows();

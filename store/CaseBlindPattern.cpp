@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <utility>
 
 #include "store/Text.h"
@@ -31,8 +32,6 @@ const CaseTable& UpperCase() {
 constexpr std::string_view kCommonCharacters = "',0ENI1SR2 ATDHU5LCG3MOBWFKZ46789PV.-/_*";
 
 std::size_t Rarity(char upper) { return std::min(kCommonCharacters.find(upper), kCommonCharacters.size()); }
-
-constexpr std::size_t kBlock = 128;
 
 }  // namespace
 
@@ -67,30 +66,40 @@ bool CaseBlindPattern::MatchesAt(const char* place) const {
 }
 
 // Without a branch in its loop, so that the compiler takes many bytes at a time.
-bool CaseBlindPattern::BlockMayHold(const char* block) const {
+bool CaseBlindPattern::MarkPlaces(const char* block, Marks& marks) const {
   const Probe first = first_;
   const Probe second = second_;
   const char* const firstPlaces = block + first.place;
   const char* const secondPlaces = block + second.place;
   unsigned char any = 0;
-  for (std::size_t i = 0; i < kBlock; ++i)
-    any |= static_cast<unsigned char>(first.Fits(firstPlaces[i]) & second.Fits(secondPlaces[i]));
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    marks[i] = static_cast<unsigned char>(first.Fits(firstPlaces[i]) & second.Fits(secondPlaces[i]));
+    any |= marks[i];
+  }
   return any != 0;
+}
+
+std::size_t CaseBlindPattern::FindInBlock(const char* block) const {
+  Marks marks;
+  if (!MarkPlaces(block, marks)) return kBlock;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    const void* mark = std::memchr(marks.data() + i, 1, kBlock - i);
+    if (mark == nullptr) return kBlock;
+    i = static_cast<std::size_t>(static_cast<const unsigned char*>(mark) - marks.data());
+    if (MatchesAt(block + i)) return i;
+  }
+  return kBlock;
 }
 
 std::size_t CaseBlindPattern::FindIn(std::string_view text, std::size_t from) const {
   if (from > text.size() || text.size() - from < pattern_.size()) return kNotFound;
   if (pattern_.empty()) return from;
   const std::size_t end = text.size() - pattern_.size() + 1;  // behind the last place at which the pattern can begin
-  for (std::size_t place = from; place < end;) {
-    const std::size_t stop = std::min(place + kBlock, end);
-    if (stop - place == kBlock && !BlockMayHold(text.data() + place)) {
-      place = stop;
-      continue;
-    }
-    for (; place < stop; ++place)
-      if (first_.Fits(text[place + first_.place]) && MatchesAt(text.data() + place)) return place;
-  }
+  std::size_t place = from;
+  for (; place + kBlock <= end; place += kBlock)
+    if (const std::size_t found = FindInBlock(text.data() + place); found < kBlock) return place + found;
+  for (; place < end; ++place)
+    if (MatchesAt(text.data() + place)) return place;
   return kNotFound;
 }
 
