@@ -65,24 +65,19 @@ bool CaseBlindPattern::MatchesAt(const char* place) const {
   return true;
 }
 
-// Without a branch in its loop, so that the compiler takes many bytes at a time.
-bool CaseBlindPattern::MarkPlaces(const char* block, Marks& marks) const {
+std::size_t CaseBlindPattern::FindInBlock(const char* block) const {
   const Probe first = first_;
   const Probe second = second_;
   const char* const firstPlaces = block + first.place;
   const char* const secondPlaces = block + second.place;
+  // Where both probes fit: a loop without a branch, so that the compiler takes many bytes at a time.
+  std::array<unsigned char, kBlock> marks;
   unsigned char any = 0;
   for (std::size_t i = 0; i < kBlock; ++i) {
     marks[i] = static_cast<unsigned char>(first.Fits(firstPlaces[i]) & second.Fits(secondPlaces[i]));
     any |= marks[i];
   }
-  return any != 0;
-}
-
-std::size_t CaseBlindPattern::FindInBlock(const char* block) const {
-  Marks marks;
-  if (!MarkPlaces(block, marks)) return kBlock;
-  for (std::size_t i = 0; i < kBlock; ++i) {
+  for (std::size_t i = 0; any != 0 && i < kBlock; ++i) {
     const void* mark = std::memchr(marks.data() + i, 1, kBlock - i);
     if (mark == nullptr) return kBlock;
     i = static_cast<std::size_t>(static_cast<const unsigned char*>(mark) - marks.data());

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -41,11 +40,8 @@ class CaseBlindPattern {
   };
 
   static constexpr std::size_t kBlock = 128;
-  using Marks = std::array<unsigned char, kBlock>;
 
   [[nodiscard]] bool MatchesAt(const char* place) const;
-  // 1 for each place of the block at which both probes fit, else 0; false if there is none.
-  [[nodiscard]] bool MarkPlaces(const char* block, Marks& marks) const;
   // The first place within the block at which the pattern begins, kBlock without one. The text goes on behind the block
   // for the pattern's length.
   [[nodiscard]] std::size_t FindInBlock(const char* block) const;

@@ -30,6 +30,35 @@ std::string CacheFolder() {
   return folder.toStdString();
 }
 
+// Ends the program when no screen is left to see, for example because the settings were cancelled while they still stand in
+// for the control centre. The moment of grace lets one screen follow another.
+class LastScreen final : public DesktopObserver {
+ public:
+  LastScreen(Desktop& desktop, Platform& platform) : desktop_(desktop) {
+    grace_.setSingleShot(true);
+    grace_.setInterval(500);
+    QObject::connect(&grace_, &QTimer::timeout, [this, &platform] {
+      if (desktop_.ActiveScreen()) return;
+      if (QApplication::activeModalWidget())
+        grace_.start();
+      else
+        platform.Quit();
+    });
+    desktop_.AddObserver(*this);
+  }
+  ~LastScreen() override { desktop_.RemoveObserver(*this); }
+
+  void OnScreen(Screen&, ScreenEvent event) override {
+    if (event == ScreenEvent::Hidden || event == ScreenEvent::Unloaded) grace_.start();
+  }
+  void OnControl(const Control&, Aspect, int) override {}
+  void OnArray(Screen&, std::string_view, int) override {}
+
+ private:
+  Desktop& desktop_;
+  QTimer grace_;
+};
+
 }  // namespace
 
 struct QtApplication::Parts {
@@ -39,6 +68,7 @@ struct QtApplication::Parts {
         windows(desktop),
         timers(desktop),
         platform(windows, files, std::move(programFolder)),
+        lastScreen(desktop, platform),
         office(OfficeSetup{.cacheFolder = CacheFolder()}),
         preview(MakePdfPreview(office)) {}
 
@@ -49,6 +79,7 @@ struct QtApplication::Parts {
   QtDesktop windows;
   QtTimers timers;
   QtPlatform platform;
+  LastScreen lastScreen;
   Office office;
   std::unique_ptr<RtfPreview> preview;
 };
