@@ -127,10 +127,12 @@ void AddStockReduction(long positions) {
       .BesideCopy(table::kStock);
 }
 
+// Of a number that no open document has.
 OpenDocumentRecord NewOpenDocument() {
+  static int documents = 0;
   OpenDocumentRecord record;
   record.Belegart = "RG";
-  record.number = "9999/2026";
+  record.number = PadZeros(std::to_string(++documents), 4) + "/2027";
   record.Datum = kToday;
   record.KDNr = CustomerNumber(7);
   record.KDName = "Sanitär und Heizung Huber GmbH"_t;

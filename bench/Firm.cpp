@@ -113,11 +113,16 @@ void Firm::MakeFolders() const {
 
 void Firm::MakeTables() {
   MakeFolders();
-  Write(table::kCustomers, [this](long index) { return CustomerRow(index, rows_); }, rows_);
-  Write(table::kSuppliers, [this](long index) { return SupplierRow(index, rows_); }, rows_);
-  Write(table::kArticles, [this](long index) { return ArticleRow(index, rows_); }, rows_);
-  Write(table::kStock, [this](long index) { return StockRow(index, rows_); }, rows_);
-  Write(table::kOrders, [this](long index) { return OrderRow(index, rows_); }, rows_);
+  Write(
+      table::kCustomers, [this](long index) { return CustomerRow(index, rows_); }, rows_);
+  Write(
+      table::kSuppliers, [this](long index) { return SupplierRow(index, rows_); }, rows_);
+  Write(
+      table::kArticles, [this](long index) { return ArticleRow(index, rows_); }, rows_);
+  Write(
+      table::kStock, [this](long index) { return StockRow(index, rows_); }, rows_);
+  Write(
+      table::kOrders, [this](long index) { return OrderRow(index, rows_); }, rows_);
   Write(table::kAppointments, AppointmentRowOf, rows_);
   Write(table::kOpenDocuments, OpenDocumentRow, rows_);
   Write(table::kDrafts, DraftRow, rows_);
@@ -128,7 +133,8 @@ void Firm::MakeSinglePieces() {
   MakeFolders();
   Write(table::kStock, SinglePieceRow, rows_);
   for (const DocumentKind kind : kDocumentKinds)
-    Write(NamesOf(kind).table, [](long) { return SeedRow("0100/2026", kToday); }, 1);
+    Write(
+        NamesOf(kind).table, [](long) { return SeedRow("0100/2026", kToday); }, 1);
 }
 
 void Firm::WriteConfig() const {

@@ -27,14 +27,13 @@ void Compare(benchmark::State& state, const std::string& subject, long parameter
 
 void Register(const std::string& subject, std::string_view measure, long parameter, int rounds,
               std::function<void()> prepare, std::function<std::optional<long>()> operation) {
-  auto* registered = benchmark::RegisterBenchmark(
-      Concat(subject, "/", measure, "/", std::to_string(parameter)).c_str(),
-      [=](benchmark::State& state) {
-        if (prepare) prepare();
-        std::optional<long> result;
-        for ([[maybe_unused]] auto _ : state) result = operation();
-        Compare(state, subject, parameter, result);
-      });
+  auto* registered = benchmark::RegisterBenchmark(Concat(subject, "/", measure, "/", std::to_string(parameter)).c_str(),
+                                                  [=](benchmark::State& state) {
+                                                    if (prepare) prepare();
+                                                    std::optional<long> result;
+                                                    for ([[maybe_unused]] auto _ : state) result = operation();
+                                                    Compare(state, subject, parameter, result);
+                                                  });
   registered->UseRealTime()->Unit(benchmark::kMillisecond);
   if (rounds > 0) registered->Iterations(rounds);
 }
@@ -59,7 +58,8 @@ Subject& Subject::Rounds(int rounds) {
 Subject& Subject::Measure(std::string_view measure, Operation operation) { return Add(measure, prepare_, operation); }
 
 Subject& Subject::MeasureSqlite(std::string_view measure, const Operation& operation) {
-  return Add(measure, [](Firm& firm) { (void)firm.Twin(); }, operation);
+  return Add(
+      measure, [](Firm& firm) { (void)firm.Twin(); }, operation);
 }
 
 Subject& Subject::Add(std::string_view measure, const Preparation& prepare, const Operation& operation) {

@@ -27,7 +27,8 @@ using Operation = std::function<std::optional<long>(Firm& firm)>;
 
 class Subject {
  public:
-  explicit Subject(std::string name, std::vector<long> sizes = kSizes) : name_(std::move(name)), sizes_(std::move(sizes)) {}
+  explicit Subject(std::string name, std::vector<long> sizes = kSizes)
+      : name_(std::move(name)), sizes_(std::move(sizes)) {}
 
   // Firms of single pieces instead of whole firms.
   Subject& WithSinglePieces();

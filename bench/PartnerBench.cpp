@@ -51,7 +51,8 @@ void AddSave() {
       .Rounds(kSaves)
       .Measure(kProgram,
                [](Firm& firm) -> std::optional<long> {
-                 Partner partner = *FindPartner(CustomerRow(firm.Rows() / 2, firm.Rows()), MiddleNumber(firm.Rows()), CustomerKind());
+                 Partner partner =
+                     *FindPartner(CustomerRow(firm.Rows() / 2, firm.Rows()), MiddleNumber(firm.Rows()), CustomerKind());
                  partner.texts[partner::kTel - 1] = NewTelephone();
                  return ReplacePartner(firm.WorkshopStore(), CustomerKind(), partner) ? 1 : 0;
                })
@@ -83,20 +84,23 @@ void AddRowsOnTopAndBehind() {
       .Preparing([](Firm& firm) { firm.Restock(table::kCustomers); })
       .Rounds(kSaves)
       .Measure(kProgram,
-               [](Firm& firm) { return firm.WorkshopStore().AppendRow(table::kCustomers, CustomerRow(1, firm.Rows())) ? 1 : 0; })
+               [](Firm& firm) {
+                 return firm.WorkshopStore().AppendRow(table::kCustomers, CustomerRow(1, firm.Rows())) ? 1 : 0;
+               })
       .BesideCopy(table::kCustomers);
   Subject("Prepend a row")
       .Preparing([](Firm& firm) { firm.Restock(table::kCustomers); })
       .Rounds(kSaves)
       .Measure(kProgram,
-               [](Firm& firm) { return firm.WorkshopStore().PrependRow(table::kCustomers, CustomerRow(1, firm.Rows())) ? 1 : 0; })
+               [](Firm& firm) {
+                 return firm.WorkshopStore().PrependRow(table::kCustomers, CustomerRow(1, firm.Rows())) ? 1 : 0;
+               })
       .BesideCopy(table::kCustomers);
 }
 
 void AddNumberAndCount() {
   Subject("Next customer number")
-      .Measure(kProgram,
-               [](Firm& firm) { return std::stol(NextPartnerNumber(TableOf(firm), CustomerKind())); })
+      .Measure(kProgram, [](Firm& firm) { return std::stol(NextPartnerNumber(TableOf(firm), CustomerKind())); })
       .BesideScan({table::kCustomers});
   Subject("Counter of the customers")
       .Measure(kProgram, [](Firm& firm) { return static_cast<long>(CountRecords(TableOf(firm))); })

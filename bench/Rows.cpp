@@ -17,17 +17,19 @@ namespace {
 
 constexpr std::array kFirstNames = {"Hans"_t,   "Jürgen"_t, "Sabine"_t, "Ursula"_t, "Björn"_t,
                                     "Renate"_t, "Käthe"_t,  "Stefan"_t, "Monika"_t, "Günther"_t};
-constexpr std::array kSurnames = {"Müller"_t,   "Schmidt"_t,  "Schröder"_t, "Weiß"_t,    "Königsberger"_t,
-                                  "Huber"_t,    "Lindner"_t,  "Böhm"_t,     "Sommer"_t,  "Großmann"_t,
-                                  "Vogel"_t,    "Krüger"_t,   "Jäger"_t,    "Hartmann"_t, "Bauer"_t};
-constexpr std::array kTrades = {"Elektrotechnik"_t, "Sanitär und Heizung"_t, "Bürobedarf"_t, "Malerbetrieb"_t,
-                                "Autohaus"_t,       "Bäckerei"_t,            "Tischlerei"_t, "Steuerberatung"_t};
-constexpr std::array kStreets = {"Hauptstraße"_t, "Bahnhofstraße"_t, "Lindenweg"_t,      "Am Mühlbach"_t,
+constexpr std::array kSurnames = {"Müller"_t, "Schmidt"_t, "Schröder"_t, "Weiß"_t,     "Königsberger"_t,
+                                  "Huber"_t,  "Lindner"_t, "Böhm"_t,     "Sommer"_t,   "Großmann"_t,
+                                  "Vogel"_t,  "Krüger"_t,  "Jäger"_t,    "Hartmann"_t, "Bauer"_t};
+constexpr std::array kTrades = {
+    "Elektrotechnik"_t, "Sanitär und Heizung"_t, "Bürobedarf"_t,    "Malerbetrieb"_t, "Autohaus"_t,
+    "Bäckerei"_t,       "Tischlerei"_t,          "Steuerberatung"_t};
+constexpr std::array kStreets = {"Hauptstraße"_t,  "Bahnhofstraße"_t, "Lindenweg"_t,       "Am Mühlbach"_t,
                                  "Gartenstraße"_t, "Schillerplatz"_t, "Industriestraße"_t, "Äußere Ringstraße"_t};
-constexpr std::array kTowns = {"Rosenheim"_t,  "München"_t, "Tübingen"_t,    "Köln"_t,      "Nürnberg"_t,  "Villingen"_t,
-                               "Osnabrück"_t,  "Kiel"_t,    "Weilheim"_t,    "Augsburg"_t,  "Saarbrücken"_t, "Celle"_t};
-constexpr std::array kGoods = {"Netzwerkkabel"_t, "Drucker"_t,       "Festplatte"_t,  "Bürostuhl"_t,   "Schreibtischlampe"_t,
-                               "Tastatur"_t,      "Bildschirm 27\""_t, "Akkuschrauber"_t, "Dübelsortiment"_t, "Toner schwarz"_t};
+constexpr std::array kTowns = {"Rosenheim"_t, "München"_t, "Tübingen"_t, "Köln"_t,     "Nürnberg"_t,    "Villingen"_t,
+                               "Osnabrück"_t, "Kiel"_t,    "Weilheim"_t, "Augsburg"_t, "Saarbrücken"_t, "Celle"_t};
+constexpr std::array kGoods = {"Netzwerkkabel"_t,     "Drucker"_t,      "Festplatte"_t,      "Bürostuhl"_t,
+                               "Schreibtischlampe"_t, "Tastatur"_t,     "Bildschirm 27\""_t, "Akkuschrauber"_t,
+                               "Dübelsortiment"_t,    "Toner schwarz"_t};
 constexpr std::array kMakers = {"Nordwerk"_t, "Rheintal Geräte"_t, "Hellmann & Co."_t, "Südkabel"_t};
 constexpr std::array kCategories = {"HDD"_t, "KAB"_t, "DRU"_t, "BÜR"_t, "WKZ"_t, "MON"_t};
 constexpr std::array kStatuses = {"offen"_t, "in Arbeit"_t, "erledigt"_t, "wartend"_t, "abgebrochen"_t};
@@ -79,7 +81,8 @@ std::string Mail(long index) { return Concat("info", std::to_string(index), "@fi
 
 // A day of the last `span` days before today.
 std::string DayBefore(long index, unsigned purpose, long span) {
-  return DateText(AddDays({2026, 11, 16}, -static_cast<long>(Mixed(index, purpose) % static_cast<std::uint64_t>(span))));
+  return DateText(
+      AddDays({2026, 11, 16}, -static_cast<long>(Mixed(index, purpose) % static_cast<std::uint64_t>(span))));
 }
 
 Partner MakePartner(long index, long rows, const PartnerKind& kind) {
@@ -206,11 +209,36 @@ std::string SinglePieceRow(long index) {
 
 std::string OrderRow(long index, long rows) {
   const std::string date = DayBefore(index, 60, 900);
-  return RecordLine({PadZeros(std::to_string(1000 + rows - index), 7), CustomerNumber(index), PartnerName(index, rows), "",
-                     Street(index), Digits(index, 7, 5), Town(index), "08031", Digits(index, 9, 6), "", "", "0171",
-                     Digits(index, 10, 7), Mail(index), "", "Reparatur", Concat(Pick(kGoods, index, 61), " defekt"),
-                     "Gerät startet nicht*__*Kostenvoranschlag gewünscht"_t, "", "", "", Concat("R", Digits(index, 62, 3)), "",
-                     Pick(kStatuses, index, 63), date, "Huber", date, "Huber", "", "Herr"});
+  return RecordLine({PadZeros(std::to_string(1000 + rows - index), 7),
+                     CustomerNumber(index),
+                     PartnerName(index, rows),
+                     "",
+                     Street(index),
+                     Digits(index, 7, 5),
+                     Town(index),
+                     "08031",
+                     Digits(index, 9, 6),
+                     "",
+                     "",
+                     "0171",
+                     Digits(index, 10, 7),
+                     Mail(index),
+                     "",
+                     "Reparatur",
+                     Concat(Pick(kGoods, index, 61), " defekt"),
+                     "Gerät startet nicht*__*Kostenvoranschlag gewünscht"_t,
+                     "",
+                     "",
+                     "",
+                     Concat("R", Digits(index, 62, 3)),
+                     "",
+                     Pick(kStatuses, index, 63),
+                     date,
+                     "Huber",
+                     date,
+                     "Huber",
+                     "",
+                     "Herr"});
 }
 
 std::string AppointmentRowOf(long index) {

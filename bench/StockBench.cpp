@@ -89,7 +89,8 @@ void AddSave() {
 void AddShortfalls() {
   constexpr const char* kQuery =
       "SELECT (SELECT count(*) FROM stock WHERE c35='Falsch' AND c5<>'' AND CAST(c4 AS INT)<CAST(c5 AS INT)) + "
-      "(SELECT count(*) FROM (SELECT count(*) AS pieces, max(CASE WHEN c35='Wahr' AND c5<>'' AND CAST(c4 AS INT)<CAST(c5 AS "
+      "(SELECT count(*) FROM (SELECT count(*) AS pieces, max(CASE WHEN c35='Wahr' AND c5<>'' AND CAST(c4 AS "
+      "INT)<CAST(c5 AS "
       "INT) THEN CAST(c5 AS INT) ELSE 0 END) AS minimum FROM stock GROUP BY c2) WHERE pieces<minimum)";
   Subject("Articles below their minimum")
       .Measure(kProgram, [](Firm& firm) { return static_cast<long>(CountArticlesBelowMinimum(Stock(firm))); })

@@ -86,7 +86,8 @@ long Grep(const std::filesystem::path& file, std::string_view text) {
   ::posix_spawn_file_actions_init(&actions);
   ::posix_spawn_file_actions_adddup2(&actions, pipe[1], STDOUT_FILENO);
   std::string program = "grep", options = "-ciF", end = "--", wanted(text), path = file.string();
-  const std::array<char*, 6> arguments = {program.data(), options.data(), end.data(), wanted.data(), path.data(), nullptr};
+  const std::array<char*, 6> arguments = {program.data(), options.data(), end.data(),
+                                          wanted.data(),  path.data(),    nullptr};
   std::string locale = "LC_ALL=C";
   const std::array<char*, 2> environment = {locale.data(), nullptr};
   pid_t child = 0;
@@ -105,7 +106,8 @@ bool SyncedCopy(const std::filesystem::path& from, const std::filesystem::path& 
   const Content content = ReadPlainly(from);
   if (!content.bytes) return false;
   const std::filesystem::path temporary = to.string() + ".part";
-  return WriteSynced(temporary, content) && ::rename(temporary.c_str(), to.c_str()) == 0 && SyncFolder(to.parent_path());
+  return WriteSynced(temporary, content) && ::rename(temporary.c_str(), to.c_str()) == 0 &&
+         SyncFolder(to.parent_path());
 }
 
 }  // namespace kontorwerk::bench

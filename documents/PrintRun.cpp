@@ -64,12 +64,13 @@ class PaperRun {
   bool Save(int page) {
     showStatus_(Concat(Word(), " Seite ", std::to_string(page), " speichern..."));
     const std::string name = PaperFileName(document_, page);
+    // A slash in the customer's name would lead into another folder.
+    if (!ValidFileName(name)) return false;
     const bool isQuotation = document_.kind == DocumentKind::Quotation;
     const std::string path = Concat(isQuotation ? settings_.ABPath : settings_.RGPath, name);
     // Kept: word processors of old fail the first save of a fresh document now and then; the second result counts.
     (void)word_.SaveDocument(path);
-    // A slash in the customer's name leads into a folder that is not the documents'.
-    return word_.SaveDocument(path) && ValidFileName(name);
+    return word_.SaveDocument(path);
   }
 
   bool Print(int page) {

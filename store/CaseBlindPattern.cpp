@@ -74,7 +74,8 @@ std::size_t CaseBlindPattern::FindInBlock(const char* block) const {
   std::array<unsigned char, kBlock> marks;
   unsigned char any = 0;
   for (std::size_t i = 0; i < kBlock; ++i) {
-    marks[i] = static_cast<unsigned char>(first.Fits(firstPlaces[i]) & second.Fits(secondPlaces[i]));
+    marks[i] = static_cast<unsigned char>(static_cast<unsigned>(first.Fits(firstPlaces[i])) &
+                                          static_cast<unsigned>(second.Fits(secondPlaces[i])));
     any |= marks[i];
   }
   for (std::size_t i = 0; any != 0 && i < kBlock; ++i) {

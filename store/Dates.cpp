@@ -105,7 +105,8 @@ std::optional<Date> ParseDate(std::string_view text) {
   const std::size_t first = trimmed.find('.');
   const std::size_t second = first == std::string_view::npos ? first : trimmed.find('.', first + 1);
   if (second == std::string_view::npos) return std::nullopt;
-  const Date date{FullYear(trimmed.substr(second + 1)), PlainNumber(trimmed.substr(first + 1, second - first - 1), 1, 2),
+  const Date date{FullYear(trimmed.substr(second + 1)),
+                  PlainNumber(trimmed.substr(first + 1, second - first - 1), 1, 2),
                   PlainNumber(trimmed.substr(0, first), 1, 2)};
   if (date.year < 100 || date.day < 1 || date.day > DaysInMonth(date.year, date.month)) return std::nullopt;
   return date;

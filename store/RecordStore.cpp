@@ -47,7 +47,9 @@ Rewrite RewriteOf(std::string_view text, BlankRows blankRows, const RowVisitor& 
     more = end != std::string_view::npos;
     if (more) text.remove_prefix(end + kLineEnd.size());
     const bool asked = !row.empty();
-    const RowChange change = asked ? visit(row) : blankRows == BlankRows::Keep ? RowChange::Keep() : RowChange::Remove();
+    const RowChange change = asked                          ? visit(row)
+                             : blankRows == BlankRows::Keep ? RowChange::Keep()
+                                                            : RowChange::Remove();
     if (change.kind == RowChange::Kind::Replace) {
       rewrite.Add(change.row);
     } else if (change.kind == RowChange::Kind::Keep) {
@@ -88,7 +90,9 @@ ReadResult RecordStore::ReadTable(std::string_view fileName) {
   return result;
 }
 
-bool RecordStore::WriteTable(std::string_view fileName, std::string_view text) { return WriteTableParts(fileName, {text}); }
+bool RecordStore::WriteTable(std::string_view fileName, std::string_view text) {
+  return WriteTableParts(fileName, {text});
+}
 
 bool RecordStore::WriteTableParts(std::string_view fileName, const std::vector<std::string_view>& parts) {
   const std::string path = PathOf(fileName);

@@ -1,5 +1,5 @@
-// The customer search in its real window: from the click to the painted list, and scrolling a long list. Beside it stands
-// the same click without a window. Run it with QT_QPA_PLATFORM=offscreen to measure the drawing and no display.
+// The customer search in its real window: from the click to the painted list, and scrolling a long list. Beside it
+// stands the same click without a window. Run it with QT_QPA_PLATFORM=offscreen to measure the drawing and no display.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -53,7 +53,8 @@ class Windows {
   // To a part (0 to 1) of the list, painted.
   void ScrollTo(double part) {
     bool rebuilt = false;
-    const auto watch = QObject::connect(view_->model(), &QAbstractItemModel::modelReset, [&rebuilt] { rebuilt = true; });
+    const auto watch =
+        QObject::connect(view_->model(), &QAbstractItemModel::modelReset, [&rebuilt] { rebuilt = true; });
     QScrollBar& bar = *view_->verticalScrollBar();
     bar.setValue(static_cast<int>(part * bar.maximum()));
     view_->viewport()->repaint();
@@ -67,7 +68,8 @@ class Windows {
   QTreeView* FindView() {
     driver_->RunEvents();
     for (QWidget* widget : QApplication::allWidgets())
-      if (auto* view = qobject_cast<QTreeView*>(widget); view && view->isVisible() && view->objectName() == "Suchergebnis")
+      if (auto* view = qobject_cast<QTreeView*>(widget);
+          view && view->isVisible() && view->objectName() == "Suchergebnis")
         return view;
     Fail("the window has no list");
   }

@@ -68,7 +68,6 @@ void MonthCalendar::paintCell(QPainter* painter, const QRect& rect, QDate date) 
   painter->drawText(frame, Qt::AlignCenter, QString::number(date.day()));
   if (bold) {
     painter->setPen(Qt::NoPen);
-    if (selected && focusProxy() != nullptr && focusProxy()->hasFocus()) painter->setPen(QPen(colours.text, 2));
     painter->setBrush(selected ? colours.onAccent : ink);
     painter->drawEllipse(QRectF(frame.center().x() - kDot / 2.0 + 0.5, frame.bottom() - kDot - 1.0, kDot, kDot));
   }

@@ -17,6 +17,7 @@
 
 #include "platform/Screen.h"
 #include "platform/TextControls.h"
+#include "platform/qt/CaptionLabel.h"
 #include "platform/qt/FormLoader.h"
 #include "platform/qt/Keys.h"
 #include "platform/qt/QtDesktop.h"
@@ -73,6 +74,13 @@ void ScreenWindow::Build(const FormFile& form) {
     }
   }
   BuildGrids(form, loader);
+  ShowPictures();
+}
+
+// Those of the decoration as well, which is bound to nothing.
+void ScreenWindow::ShowPictures() {
+  for (QLabel* label : window_->findChildren<QLabel*>())
+    if (auto* caption = dynamic_cast<CaptionLabel*>(label)) caption->LoadPicture();
 }
 
 void ScreenWindow::Bind(std::unique_ptr<Binding> binding, Control& control) {
@@ -181,6 +189,7 @@ void ScreenWindow::ThemeChanged() {
   for (const auto& binding : bindings_) binding->ThemeChanged();
   for (const auto& grid : grids_)
     for (const auto& cell : grid->Cells()) cell->ThemeChanged();
+  ShowPictures();
 }
 
 void ScreenWindow::Settle() {
@@ -210,7 +219,10 @@ void ScreenWindow::FocusOn(const Control& control) {
   QWidget* widget = binding->FocusWidget();
   const QWidget* now = window_->focusWidget();
   if (!widget->isVisibleTo(window_.get()) || !widget->isEnabled()) return;
-  if (now == nullptr || (now != widget && !widget->isAncestorOf(now))) widget->setFocus(Qt::OtherFocusReason);
+  if (now != nullptr && (now == widget || widget->isAncestorOf(now))) return;
+  widget->setFocus(Qt::OtherFocusReason);
+  // What is typed next goes behind the text.
+  if (auto* field = qobject_cast<QLineEdit*>(widget); field != nullptr && !field->hasSelectedText()) field->end(false);
 }
 
 bool ScreenWindow::Take(Control& control) { return desktop_.Take(control); }

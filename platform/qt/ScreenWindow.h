@@ -75,6 +75,7 @@ class ScreenWindow final : public QObject, public BindingHost {
   bool OnWheel(QObject& object, QWheelEvent& event);
   void OnHover(const Binding& binding) const;
   void PlaceOnScreen();
+  void ShowPictures();
 
   Screen& screen_;
   QtDesktop& desktop_;

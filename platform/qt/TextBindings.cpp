@@ -39,6 +39,12 @@ void ShowIn(Area& area, const QString& text) {
   area.setTextCursor(cursor);
 }
 
+// A text too long for its field is read from its beginning.
+void PutInto(QLineEdit& field, const QString& text) {
+  field.setText(text);
+  if (field.window()->focusWidget() != &field) field.setCursorPosition(0);
+}
+
 }  // namespace
 
 LineBinding::LineBinding(QLineEdit* field, BindingHost& host) : Binding(field, host), field_(field) {
@@ -50,7 +56,7 @@ LineBinding::LineBinding(QLineEdit* field, BindingHost& host) : Binding(field, h
 
 void LineBinding::ShowText() {
   const QString text = ToQt(As<TextBox>()->Text());
-  if (field_->text() != text) field_->setText(text);
+  if (field_->text() != text) PutInto(*field_, text);
 }
 
 void LineBinding::ShowState(Aspect aspect, int) {
@@ -60,7 +66,7 @@ void LineBinding::ShowState(Aspect aspect, int) {
 
 // A field that goes on to another control begins anew: taking back reaches no further than this text.
 void LineBinding::ShowAll() {
-  if (shown_ != Bound()) field_->setText(ToQt(As<TextBox>()->Text()));
+  if (shown_ != Bound()) PutInto(*field_, ToQt(As<TextBox>()->Text()));
   shown_ = Bound();
   ShowText();
 }

@@ -53,6 +53,12 @@ TEST_F(PaperFieldsTest, TheNumberStandsUnderTheKindsOwnName) {
   EXPECT_EQ(Value("Belegnummer"), "0150/2007");
 }
 
+TEST_F(PaperFieldsTest, TheKindIsSetFirstWhereOneTemplateServesAll) {
+  EXPECT_EQ(PaperFields(paper_, page_, settings_).front().name, "KDNr");
+  settings_.Einheitsbelege = true;
+  EXPECT_EQ(PaperFields(paper_, page_, settings_).front().name, "Belegart");
+}
+
 TEST_F(PaperFieldsTest, AnInvoiceNamesItsDeliveryNoteOrItsTime) {
   EXPECT_EQ(Value("LieferscheinNr"),
             "Liefer-/Leistungszeitpunkt entspricht dem Rechnungsdatum (wenn nicht gesondert angegeben)");

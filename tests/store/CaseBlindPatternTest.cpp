@@ -42,6 +42,20 @@ TEST(CaseBlindPattern, AgreesWithAPlainSearch) {
   }
 }
 
+TEST(CaseBlindPattern, EachByteIsFoundInBothCasesFarWithinALongText) {
+  for (int byte = 1; byte < 256; ++byte) {
+    const std::string letter(1, static_cast<char>(byte));
+    const std::string other(1, byte == '.' ? '-' : '.');
+    for (const std::string& written : {UCase(letter), LCase(letter)}) {
+      std::string text;
+      for (int i = 0; i < 300; ++i) text += other;
+      text += written + other + written + other;
+      EXPECT_EQ(CaseBlindPattern(letter).FindIn(text), 300U) << byte;
+      EXPECT_EQ(CaseBlindPattern(UCase(letter) + other + LCase(letter)).FindIn(text), 300U) << byte;
+    }
+  }
+}
+
 TEST(CaseBlindPattern, EachLineComesOnce) {
   EXPECT_EQ(Lines("aaa\r\nb\r\nxa", "a"), (std::vector<std::string>{"aaa", "xa"}));
 }

@@ -181,6 +181,15 @@ TEST_F(FileSystemTest, AllBytesSurviveWritingAndReading) {
   EXPECT_EQ(files_.Read(Path("bytes.dbf")).text, all);
 }
 
+TEST_F(FileSystemTest, PartsStandOneBehindTheOtherInTheFileWhateverTheirSizes) {
+  const std::string large(700'000, 'x');
+  const std::string fills(256 * 1024, 'y');
+  ASSERT_TRUE(files_.WriteParts(Path("Kundendb.dbf"), {"a", "", large, "b", "c", fills, "d", fills}));
+  EXPECT_EQ(files_.Read(Path("Kundendb.dbf")).text, "a" + large + "bc" + fills + "d" + fills);
+  ASSERT_TRUE(files_.WriteParts(Path("Kundendb.dbf"), {}));
+  EXPECT_EQ(folder_.Content("Kundendb.dbf"), "");
+}
+
 TEST_F(FileSystemTest, WriteReplacesTheWholeFile) {
   folder_.Put("config.txt", "a much longer text than the new one");
   ASSERT_TRUE(files_.Write(Path("config.txt"), "new"));
