@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "store/Numbers.h"
+#include "store/Settings.h"
 #include "store/Text.h"
 
 namespace kontorwerk {
@@ -83,13 +84,6 @@ std::string_view ConversionQuestion(PriceBase wanted) {
              : "Sollen die vorhandenen Einzel- und Gesamtpreise in Bruttopreise umgerechnet werden?";
 }
 
-std::string RateLabel(std::string_view rate) {
-  constexpr int kFirstPercentDigit = 3;  // behind "0,"
-  std::string percent(Mid(rate, kFirstPercentDigit, 2));
-  const std::string_view decimals = Mid(rate, kFirstPercentDigit + 2);
-  if (!decimals.empty()) percent += Concat(",", decimals);
-  if (percent.starts_with('0')) percent.erase(0, 1);
-  return percent + "%";
-}
+std::string RateLabel(std::string_view rate) { return RatePercent(rate) + "%"; }
 
 }  // namespace kontorwerk

@@ -1,6 +1,7 @@
 // A line counts for a customer only by its number: names and addresses in it are copies of the time of printing.
 #include "partners/PartnerDocuments.h"
 
+#include "receivables/OpenDocumentRecords.h"
 #include "store/Numbers.h"
 #include "store/RecordLine.h"
 #include "store/RecordStore.h"
@@ -13,9 +14,9 @@ void Add(double& sum, std::string_view amount) { sum += ToNumber(amount).value_o
 
 // Of the last reminder that was sent; empty without one.
 std::string_view ReminderDate(std::string_view line) {
-  const std::string_view first = RecordField(line, opendocument::kFirstReminder);
-  const std::string_view second = RecordField(line, opendocument::kSecondReminder);
-  const std::string_view third = RecordField(line, opendocument::kThirdReminder);
+  const std::string_view first = RecordField(line, kOpenMD1);
+  const std::string_view second = RecordField(line, kOpenMD2);
+  const std::string_view third = RecordField(line, kOpenMD3);
   if (!third.empty()) return third;
   return second.empty() ? first : second;
 }
@@ -26,17 +27,17 @@ PartnerDocuments PartnerDocumentsOf(std::string_view tableText, std::string_view
   PartnerDocuments result;
   double invoices = 0, deliveryNotes = 0, quotations = 0, creditNotes = 0;
   ForEachRow(tableText, [&](std::string_view line) {
-    if (RecordField(line, opendocument::kPartnerNumber) != partnerNumber) return;
+    if (RecordField(line, kOpenKDNr) != partnerNumber) return;
     const auto field = [line](int column) { return std::string(RecordField(line, column)); };
-    const std::string kind = field(opendocument::kKind);
-    const std::string gross = field(opendocument::kGross);
-    const std::string rest = field(opendocument::kRest);
+    const std::string kind = field(kOpenBelegart);
+    const std::string gross = field(kOpenBetrag);
+    const std::string rest = field(kOpenRestbetrag);
     if (kind == "RG") Add(invoices, rest);
     if (kind == "LS") Add(deliveryNotes, gross);
     if (kind == "AB") Add(quotations, gross);
     if (kind == "GS") Add(creditNotes, gross);
-    result.documents.push_back({kind, field(opendocument::kNumber), field(opendocument::kDate), gross,
-                                field(opendocument::kPaid), rest, std::string(ReminderDate(line))});
+    result.documents.push_back({kind, field(kOpenNumber), field(kOpenDatum), gross,
+                                field(kOpenSumme), rest, std::string(ReminderDate(line))});
   });
   result.invoices = RoundedMoneyText(invoices);
   result.deliveryNotes = RoundedMoneyText(deliveryNotes);

@@ -3,6 +3,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "receivables/OpenDocumentRecords.h"
 #include "shell/SeenNumbers.h"
 #include "stock/StockRecords.h"
 #include "store/Numbers.h"
@@ -15,11 +16,6 @@ namespace {
 
 constexpr int kOldAfterDays = 30;
 
-// Columns of the open documents.
-constexpr int kDate = 3;
-constexpr int kFirstReminder = 59;
-constexpr int kSecondReminder = 60;
-constexpr int kThirdReminder = 61;
 
 double NumberOrZero(std::string_view text) { return ToNumber(text).value_or(0); }
 
@@ -60,10 +56,10 @@ std::optional<long> DaysSince(std::string_view dateText, const Date& today) {
 
 // The date of the last reminder where the three columns are filled from the first on without a gap.
 std::string_view LastReminder(std::string_view row) {
-  const std::string_view first = RecordField(row, kFirstReminder);
+  const std::string_view first = RecordField(row, kOpenMD1);
   if (first.empty()) return {};
-  const std::string_view second = RecordField(row, kSecondReminder);
-  const std::string_view third = RecordField(row, kThirdReminder);
+  const std::string_view second = RecordField(row, kOpenMD2);
+  const std::string_view third = RecordField(row, kOpenMD3);
   if (second.empty()) return third.empty() ? first : std::string_view();
   return third.empty() ? second : third;
 }
@@ -88,7 +84,7 @@ OpenDocumentFigures CountOpenDocuments(std::string_view openDocumentsText, const
   OpenDocumentFigures figures;
   ForEachRow(openDocumentsText, [&](std::string_view row) {
     ++figures.total;
-    const std::optional<long> age = DaysSince(RecordField(row, kDate), today);
+    const std::optional<long> age = DaysSince(RecordField(row, kOpenDatum), today);
     if (age && *age >= kOldAfterDays) ++figures.old;
     // Kept: a document reminded of lately is taken out again even where it was never old itself, so that the
     // figure can fall below the true one. The users know the reminder with this figure.

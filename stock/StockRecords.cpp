@@ -144,11 +144,6 @@ std::string QuantityAfterReceipt(std::string_view oldQuantity, std::string_view 
   return NumberText(NumberOrZero(oldQuantity) + NumberOrZero(received));
 }
 
-std::string RateCaption(std::string_view rate) {
-  std::string percent(Mid(rate, 3, 2));
-  if (Len(rate) > 4) percent += Concat(",", Mid(rate, 5));
-  if (percent.starts_with('0')) percent.erase(0, 1);
-  return percent + "% MWST";
-}
+std::string RateCaption(std::string_view rate) { return RatePercent(rate) + "% MWST"; }
 
 }  // namespace kontorwerk

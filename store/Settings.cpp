@@ -154,4 +154,13 @@ std::string SecondRateText(std::string_view value, std::string& firstRate) {
   return std::string(value);
 }
 
+std::string RatePercent(std::string_view rate) {
+  constexpr int kFirstPercentDigit = 3;  // behind "0,"
+  std::string percent(Mid(rate, kFirstPercentDigit, 2));
+  const std::string_view decimals = Mid(rate, kFirstPercentDigit + 2);
+  if (!decimals.empty()) percent += Concat(",", decimals);
+  if (percent.starts_with('0')) percent.erase(0, 1);
+  return percent;
+}
+
 }  // namespace kontorwerk

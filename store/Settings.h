@@ -55,4 +55,7 @@ void ReadConfigText(std::string_view text, Settings& settings);
 [[nodiscard]] std::string FirstRateText(std::string_view value);
 [[nodiscard]] std::string SecondRateText(std::string_view value, std::string& firstRate);
 
+// The percentage of a fraction text without its sign: "0,07" gives "7", "0,165" gives "16,5".
+[[nodiscard]] std::string RatePercent(std::string_view rate);
+
 }  // namespace kontorwerk
