@@ -1,4 +1,5 @@
-// The operator's main: reads the command line, puts the screens, the surroundings of a script and a driver together, runs the script.
+// The operator's main: reads the command line, puts the screens, the surroundings of a script and a driver together,
+// runs the script.
 //
 //   kontorwerk-operator [--screens headless|qt] [--shots DIR] [--print] --program-folder DIR SCRIPT
 #include <cstdio>

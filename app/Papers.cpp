@@ -11,7 +11,8 @@ namespace kontorwerk {
 namespace {
 
 std::string CacheFolder(const std::string& programFolder) {
-  if (const char* cache = std::getenv("XDG_CACHE_HOME"); cache && *cache == '/') return std::string(cache) + "/kontorwerk";
+  if (const char* cache = std::getenv("XDG_CACHE_HOME"); cache && *cache == '/')
+    return std::string(cache) + "/kontorwerk";
   if (const char* home = std::getenv("HOME"); home && *home == '/') return std::string(home) + "/.cache/kontorwerk";
   return programFolder + "/.cache";
 }

@@ -1,5 +1,5 @@
-// The word processor as both mains set it up: LibreOffice's work files lie in the user's cache folder, PDF files that were never saved
-// elsewhere beside the program.
+// The word processor as both mains set it up: LibreOffice's work files lie in the user's cache folder, PDF files that
+// were never saved elsewhere beside the program.
 #pragma once
 
 #include <functional>

@@ -5,8 +5,8 @@
 
 namespace kontorwerk {
 
-// The folder of the executable if it can be written to, otherwise a folder of the user's own, which is made if it is missing.
-// UTF-8, absolute, without a closing slash.
+// The folder of the executable if it can be written to, otherwise a folder of the user's own, which is made if it is
+// missing. UTF-8, absolute, without a closing slash.
 [[nodiscard]] std::string FindProgramFolder();
 
 }  // namespace kontorwerk

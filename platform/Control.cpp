@@ -10,8 +10,9 @@ namespace kontorwerk {
 
 std::string_view KindName(ControlKind kind) {
   constexpr std::array<std::string_view, 17> kNames = {
-      "TextBox",   "RichTextBox", "Label",       "CommandButton", "CheckBox", "OptionButton", "ComboBox", "ListBox", "ListView",
-      "MonthView", "StatusBar",   "ProgressBar", "ScrollBar",     "TabStrip", "MenuEntry",    "Timer",    "Image"};
+      "TextBox",   "RichTextBox", "Label",     "CommandButton", "CheckBox",  "OptionButton",
+      "ComboBox",  "ListBox",     "ListView",  "MonthView",     "StatusBar", "ProgressBar",
+      "ScrollBar", "TabStrip",    "MenuEntry", "Timer",         "Image"};
   return kNames[static_cast<std::size_t>(kind)];
 }
 
@@ -61,8 +62,10 @@ bool Control::TakesFocus() const {
     case ControlKind::MenuEntry:
     case ControlKind::StatusBar:
     case ControlKind::ProgressBar:
-    case ControlKind::Timer: return false;
-    default: return enabled_;
+    case ControlKind::Timer:
+      return false;
+    default:
+      return enabled_;
   }
 }
 

@@ -1,5 +1,5 @@
-// What every control of a screen has in common: its name, whether it is seen and usable, its colours and tool tip, and its
-// focus, key and hover events. A control holds its state and tells the desktop's observers what has changed;
+// What every control of a screen has in common: its name, whether it is seen and usable, its colours and tool tip, and
+// its focus, key and hover events. A control holds its state and tells the desktop's observers what has changed;
 // drawing it is the observers' business.
 //
 // Two roads lead into a control. The program's road (SetText, SetVisible ...) changes state. The user's road (User...,
@@ -20,8 +20,23 @@ class Screen;
 struct ControlDesign;
 
 enum class ControlKind {
-  TextBox, RichTextBox, Label, CommandButton, CheckBox, OptionButton, ComboBox, ListBox, ListView, MonthView, StatusBar,
-  ProgressBar, ScrollBar, TabStrip, MenuEntry, Timer, Image,
+  TextBox,
+  RichTextBox,
+  Label,
+  CommandButton,
+  CheckBox,
+  OptionButton,
+  ComboBox,
+  ListBox,
+  ListView,
+  MonthView,
+  StatusBar,
+  ProgressBar,
+  ScrollBar,
+  TabStrip,
+  MenuEntry,
+  Timer,
+  Image,
 };
 
 // The kind's name, as forms and messages spell it: "TextBox".
@@ -29,8 +44,29 @@ enum class ControlKind {
 
 // What of a control has changed; `detail` of the notification is the row, panel or item concerned, -1 for all.
 enum class Aspect {
-  Text, Caption, Value, Items, ListIndex, Visible, Enabled, ToolTip, Colour, BackColour, Columns, Rows, RowLook, Selection,
-  EnsureVisible, Panel, Date, BoldDays, Range, TextSelection, TimerState, Picture, Rtf,
+  Text,
+  Caption,
+  Value,
+  Items,
+  ListIndex,
+  Visible,
+  Enabled,
+  ToolTip,
+  Colour,
+  BackColour,
+  Columns,
+  Rows,
+  RowLook,
+  Selection,
+  EnsureVisible,
+  Panel,
+  Date,
+  BoldDays,
+  Range,
+  TextSelection,
+  TimerState,
+  Picture,
+  Rtf,
 };
 
 class Control {
@@ -72,10 +108,10 @@ class Control {
   // Puts the control into the state of its form; called before each load of the screen.
   virtual void ResetToDesign(const ControlDesign* design);
 
-  std::function<void()> OnEnter;      // the focus has come
-  std::function<void()> OnLeave;      // the focus has gone on
-  std::function<void(Key&)> OnKey;    // before the control itself uses the key
-  std::function<void()> OnHover;      // the mouse has moved over it
+  std::function<void()> OnEnter;    // the focus has come
+  std::function<void()> OnLeave;    // the focus has gone on
+  std::function<void(Key&)> OnKey;  // before the control itself uses the key
+  std::function<void()> OnHover;    // the mouse has moved over it
 
   // What the control does with a key that its handler has left; sets `handled` if it used it.
   virtual void UseKey(Key& key);

@@ -14,7 +14,9 @@ namespace kontorwerk {
 
 class ControlArrayBase {
  protected:
-  ControlArrayBase(Screen& owner, std::string_view name) : owner_(owner), name_(name) { owner.arrays_.push_back(name_); }
+  ControlArrayBase(Screen& owner, std::string_view name) : owner_(owner), name_(name) {
+    owner.arrays_.push_back(name_);
+  }
   void Announce(int count) { owner_.desktop_.NotifyArray(owner_, name_, count); }
   void Reset(Control& control) const;
 

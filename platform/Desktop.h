@@ -1,7 +1,7 @@
 // All screens of the program, the one focus among their controls, and the observers that draw or record them.
 //
-// Focus: a move raises the leave event of the control that had it, then the enter event of the new one. A handler that moves the
-// focus itself has the last word. Invariants: 1. at most one control has the focus; 2. a control is left only
+// Focus: a move raises the leave event of the control that had it, then the enter event of the new one. A handler that
+// moves the focus itself has the last word. Invariants: 1. at most one control has the focus; 2. a control is left only
 // after it was entered; 3. unloading or hiding a screen takes its focus away without a leave event.
 #pragma once
 

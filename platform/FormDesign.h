@@ -10,10 +10,10 @@
 namespace kontorwerk {
 
 struct ControlDesign {
-  std::string name;                  // Windows-1252; "LGNr" for all elements of an array
-  std::string kind;                  // KindName of the control that the form expects
-  std::string caption;               // without mnemonic mark
-  std::string text;                  // of text fields, or of an empty list
+  std::string name;     // Windows-1252; "LGNr" for all elements of an array
+  std::string kind;     // KindName of the control that the form expects
+  std::string caption;  // without mnemonic mark
+  std::string text;     // of text fields, or of an empty list
   std::string toolTip;
   bool visible = true;
   bool enabled = true;
@@ -24,8 +24,8 @@ struct ControlDesign {
   int value = 0;                     // of progress and scroll bars
   int minimum = 0;
   int maximum = 100;
-  int tabIndex = -1;                 // place in the order of work, -1 for controls outside it
-  std::string group;                 // name of the container: option buttons of one group exclude each other
+  int tabIndex = -1;  // place in the order of work, -1 for controls outside it
+  std::string group;  // name of the container: option buttons of one group exclude each other
 };
 
 struct ScreenDesign {

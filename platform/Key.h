@@ -7,8 +7,33 @@
 namespace kontorwerk {
 
 enum class KeyCode {
-  Enter, Escape, Tab, Backspace, Delete, Insert, Space, Up, Down, Left, Right, Home, End, PageUp, PageDown,
-  F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12,
+  Enter,
+  Escape,
+  Tab,
+  Backspace,
+  Delete,
+  Insert,
+  Space,
+  Up,
+  Down,
+  Left,
+  Right,
+  Home,
+  End,
+  PageUp,
+  PageDown,
+  F1,
+  F2,
+  F3,
+  F4,
+  F5,
+  F6,
+  F7,
+  F8,
+  F9,
+  F10,
+  F11,
+  F12,
   Character,  // a letter or digit, see Key::character
 };
 

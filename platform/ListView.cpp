@@ -116,9 +116,8 @@ void ListView::Sort(int column, bool ascending) {
   std::vector<std::pair<std::string, int>> order;
   order.reserve(rows_.size());
   for (int row = 1; row <= RowCount(); ++row) order.emplace_back(SortKey(Cell(row, column)), row);
-  std::stable_sort(order.begin(), order.end(), [&](const auto& a, const auto& b) {
-    return ascending ? a.first < b.first : b.first < a.first;
-  });
+  std::stable_sort(order.begin(), order.end(),
+                   [&](const auto& a, const auto& b) { return ascending ? a.first < b.first : b.first < a.first; });
   std::vector<ListRow> sorted;
   sorted.reserve(rows_.size());
   int selected = 0;
@@ -164,13 +163,26 @@ void ListView::UseKey(Key& key) {
   if (key.ctrl || key.alt || key.shift || rows_.empty()) return;
   int row = selected_;
   switch (key.code) {
-    case KeyCode::Up: row -= 1; break;
-    case KeyCode::Down: row += 1; break;
-    case KeyCode::PageUp: row -= kRowsOfAPage; break;
-    case KeyCode::PageDown: row += kRowsOfAPage; break;
-    case KeyCode::Home: row = 1; break;
-    case KeyCode::End: row = RowCount(); break;
-    default: return;
+    case KeyCode::Up:
+      row -= 1;
+      break;
+    case KeyCode::Down:
+      row += 1;
+      break;
+    case KeyCode::PageUp:
+      row -= kRowsOfAPage;
+      break;
+    case KeyCode::PageDown:
+      row += kRowsOfAPage;
+      break;
+    case KeyCode::Home:
+      row = 1;
+      break;
+    case KeyCode::End:
+      row = RowCount();
+      break;
+    default:
+      return;
   }
   key.handled = true;
   row = std::clamp(row, 1, RowCount());

@@ -76,8 +76,8 @@ class ListView final : public Control {
   void UseKey(Key& key) override;  // up, down, page up, page down, home, end move the selection as clicks do
   void ResetToDesign(const ControlDesign* design) override;
 
-  std::function<void()> OnClick;             // any click into the list, behind OnSelect
-  std::function<void()> OnSelect;            // a row was clicked or reached by key; Selected() tells which
+  std::function<void()> OnClick;   // any click into the list, behind OnSelect
+  std::function<void()> OnSelect;  // a row was clicked or reached by key; Selected() tells which
   std::function<void()> OnDoubleClick;
   std::function<void(int column)> OnColumnClick;
   std::function<void(int row)> OnTick;

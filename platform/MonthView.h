@@ -25,7 +25,7 @@ class MonthView final : public Control {
   void ClearBold();
   [[nodiscard]] const std::set<Date>& BoldDays() const { return bold_; }
 
-  void UserDate(const Date& date);   // a day was clicked: SetValue, then OnDateClick
+  void UserDate(const Date& date);      // a day was clicked: SetValue, then OnDateClick
   void UserMonth(int year, int month);  // another month was paged to; the chosen day stays
 
   void ResetToDesign(const ControlDesign* design) override;

@@ -14,7 +14,9 @@ class Timer final : public Control {
 
   // `intervalMs` and the state at each load of the screen.
   Timer(Screen& owner, std::string_view name, int intervalMs, Start start)
-      : Control(owner, ControlKind::Timer, name, kNoIndex), designIntervalMs_(intervalMs), intervalMs_(intervalMs),
+      : Control(owner, ControlKind::Timer, name, kNoIndex),
+        designIntervalMs_(intervalMs),
+        intervalMs_(intervalMs),
         start_(start) {}
 
   [[nodiscard]] int IntervalMs() const { return intervalMs_; }

@@ -15,8 +15,14 @@ namespace kontorwerk {
 
 struct ProgramScreens {
   explicit ProgramScreens(Context& context)
-      : startForm(context), newTables(context), about(context), calendar(context, startForm), admin(context, startForm),
-        partners(context), stock(context, startForm), documents(context, startForm) {
+      : startForm(context),
+        newTables(context),
+        about(context),
+        calendar(context, startForm),
+        admin(context, startForm),
+        partners(context),
+        stock(context, startForm),
+        documents(context, startForm) {
     context.desktop.Add(startForm);
     context.desktop.Add(newTables);
     context.desktop.Add(about);
@@ -27,7 +33,9 @@ struct ProgramScreens {
     actions.openCustomerSearch = [&context] { context.desktop.Find("KDsuchen")->Show(); };
     actions.openStockSearch = [this] { stock.OpenStockSearchForDocument(); };
     actions.openArticleSearch = [this] { stock.OpenArticleSearchForDocument(); };
-    actions.showDraftCount = [this](int count) { startForm.EntwurfAnz.SetCaption(Concat(std::to_string(count), " Stück"_t)); };
+    actions.showDraftCount = [this](int count) {
+      startForm.EntwurfAnz.SetCaption(Concat(std::to_string(count), " Stück"_t));
+    };
     documents.SetActions(std::move(actions));
     stock.SetSupplierChooser([this](Artikelanlegen::SupplierTaker taker) {
       partners.ChooseSupplierFor({std::move(taker.take), std::move(taker.waits)});
@@ -58,7 +66,8 @@ struct ProgramScreens {
 };
 
 Program::Program(Desktop& desktop, Platform& platform, const FileSystemObject& files)
-    : store_(files, settings_), context_{desktop, platform, files, store_, settings_},
+    : store_(files, settings_),
+      context_{desktop, platform, files, store_, settings_},
       screens_(std::make_unique<ProgramScreens>(context_)) {}
 
 Program::~Program() = default;

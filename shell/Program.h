@@ -1,4 +1,5 @@
-// The whole program: its settings, its tables, and all screens, wired together. What the surroundings are is the caller's choice.
+// The whole program: its settings, its tables, and all screens, wired together. What the surroundings are is the
+// caller's choice.
 #pragma once
 
 #include <memory>

@@ -30,8 +30,8 @@ std::string CacheFolder() {
   return folder.toStdString();
 }
 
-// Ends the program when no screen is left to see, for example because the settings were cancelled while they still stand in
-// for the control centre. The moment of grace lets one screen follow another.
+// Ends the program when no screen is left to see, for example because the settings were cancelled while they still
+// stand in for the control centre. The moment of grace lets one screen follow another.
 class LastScreen final : public DesktopObserver {
  public:
   LastScreen(Desktop& desktop, Platform& platform) : desktop_(desktop) {
